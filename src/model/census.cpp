@@ -1,0 +1,151 @@
+#include "model/census.h"
+
+#include <cstdlib>
+#include <optional>
+#include <tuple>
+
+#include "model/areas.h"
+#include "model/units_on_map.h"
+
+namespace varnstride {
+namespace {
+
+void CountEnemy(Census& census, const Unit& unit) {
+    ++census.enemyCount;
+    if (unit.status == UnitStatus::Routed) census.enemyRoutedHere = 1;
+    if (unit.type == UnitType::Leader) census.enemyLeaderHere = 1;
+    if (IsFoot(unit.type)) census.enemyLineHere = 1;
+    if (unit.type == UnitType::HeavyCavalry) census.enemyHeavyHere = 1;
+    if (IsMountedOrMortar(unit.type)) census.enemyCavalryHere = 1;
+    if (IsFieldGun(unit.type)) census.enemyGunsHere = 1;
+}
+
+void ClearEnemyCounts(Census& census) {
+    census.enemyCount = 0;
+    census.enemyLineHere = census.enemyCavalryHere = census.enemyGunsHere = 0;
+    census.enemyLeaderHere = census.enemyHeavyHere = census.enemyRoutedHere = 0;
+    census.censusSlotUnit = {};
+}
+
+// The French do not count the horse of the Guard here, the others do.
+bool CountsAsOwnCavalry(UnitType type, int army) {
+    return IsBetween(type, UnitType::LightCavalry,
+                     army == kFrench ? UnitType::CossackCavalry : UnitType::GuardCavalry);
+}
+
+void CountOwn(Census& census, const Unit& unit, int army) {
+    if (IsFieldGun(unit.type)) ++census.ownGuns;
+    if (CountsAsOwnCavalry(unit.type, army)) ++census.ownCavalry;
+    if (IsFoot(unit.type)) ++census.ownLine;
+    if (unit.type == UnitType::Leader) ++census.ownLeaders;
+}
+
+// A goal that is an edge has the row of the unit, one that is a corner its own.
+struct Goal {
+    bool east;
+    enum class Row { OfUnit, North, South } row;
+};
+
+constexpr Goal kFrenchGoals[] = {
+    {false, Goal::Row::OfUnit}, {true, Goal::Row::OfUnit}, {true, Goal::Row::North},
+    {false, Goal::Row::North},  {true, Goal::Row::South},  {false, Goal::Row::South},
+};
+
+Cell GoalCell(const Game& game, Goal goal, int unitRow) {
+    const int column = goal.east ? game.grid.Width() - 2 : 1;
+    switch (goal.row) {
+        case Goal::Row::OfUnit: return {column, unitRow};
+        case Goal::Row::North: return {column, 0};
+        case Goal::Row::South: return {column, game.grid.Height() - 1};
+    }
+    return {};
+}
+
+// The Allied goal of a number mirrors the French one.
+Goal Mirrored(Goal goal) {
+    const Goal::Row row = goal.row == Goal::Row::North   ? Goal::Row::South
+                          : goal.row == Goal::Row::South ? Goal::Row::North
+                                                         : Goal::Row::OfUnit;
+    return {!goal.east, row};
+}
+
+std::optional<Cell> GoalOf(const Game& game) {
+    const int direction = game.turnLog.advanceDirection;
+    if (direction < 1 || direction > 6) return std::nullopt;
+    const Goal french = kFrenchGoals[direction - 1];
+    const Goal goal = game.OwnSide() == Side::French ? french : Mirrored(french);
+    return GoalCell(game, goal, game.InHand().y);
+}
+
+struct NearestLit {
+    Cell nearest;
+    Cell last;  // the last lit cell by rows
+    bool found = false;
+};
+
+// Columns count with their sign: column 0 lies nearer than the goal column 1. A tie goes to the
+// first cell by rows.
+NearestLit FindNearestLit(const Game& game, Cell goal) {
+    NearestLit result;
+    constexpr int kTooFar = 1000;
+    std::tuple<int, int, int> best{kTooFar, 0, 0};
+    const bool west = goal.x == 1;
+    game.grid.ForEachLit([&](Cell cell) {
+        const int columns = west ? cell.x - goal.x : goal.x - cell.x;
+        const std::tuple<int, int, int> here{columns + std::abs(cell.y - goal.y), cell.y, cell.x};
+        if (std::get<0>(here) < kTooFar && (!result.found || here < best)) {
+            best = here;
+            result.nearest = cell;
+            result.found = true;
+        }
+        if (std::tuple(cell.y, cell.x) >= std::tuple(result.last.y, result.last.x)) {
+            result.last = cell;
+        }
+    });
+    return result;
+}
+
+}  // namespace
+
+void CensusEnemy(Game& game) {
+    const int ordinal = game.grid.AreaOf(game.state.selectedCell);
+    if (ordinal == 0) return;
+    ClearEnemyCounts(game.census);
+    const AreaSlots slots = game.atlas->Row(ordinal).Slots();
+    const int army = EnemyArmyOf(game, slots);
+    if (army < 0) return;
+    if (!game.battle.attackRunning) game.battle.targetArmy = army;
+    for (int slot = 0; slot < kSlotsPerSide; ++slot) {
+        const UnitId unit = UnitStandingAt(game, SlotOf(slots, game.EnemySide(), slot));
+        if (!unit || unit.army != army || !IsOnMap(game, unit)) continue;
+        game.census.censusSlotUnit[static_cast<std::size_t>(slot)] = unit.index;
+        CountEnemy(game.census, game.At(unit));
+    }
+}
+
+void CensusOwnAtTarget(Game& game) {
+    const int ordinal = game.grid.AreaOf(game.state.targetCell);
+    if (ordinal == 0) return;
+    Census& census = game.census;
+    census.ownGuns = census.ownCavalry = census.ownLine = census.ownLeaders = 0;
+    const AreaSlots slots = game.atlas->Row(ordinal).Slots();
+    for (int slot = 0; slot < kSlotsPerSide; ++slot) {
+        const UnitId unit = UnitStandingAt(game, SlotOf(slots, game.OwnSide(), slot));
+        if (!unit || unit.army != game.state.currentArmy || !IsOnMap(game, unit)) continue;
+        CountOwn(census, game.At(unit), unit.army);
+    }
+}
+
+void FindAdvanceCell(Game& game) {
+    GameState& state = game.state;
+    state.advanceResultCell = kNoCell;
+    if (const std::optional<Cell> goal = GoalOf(game)) {
+        const NearestLit lit = FindNearestLit(game, *goal);
+        const int ordinal = lit.found ? game.grid.AreaOf(lit.nearest) : 0;
+        state.advanceResultCell =
+            ordinal > 0 ? SlotOf(game.atlas->Row(ordinal).Slots(), game.OwnSide(), 0) : lit.last;
+    }
+    state.selectedCell = state.targetCell = state.advanceResultCell;
+}
+
+}  // namespace varnstride
