@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -54,7 +55,9 @@ struct Game {
     std::vector<ArmyUnits> units;  // seven armies; record 0 of each stays empty
     Grid grid;
 
-    std::string filePath;  // of the battle in hand, as it was chosen
+    std::array<std::uint8_t, 4> sizeReserved{};   // of the file in hand, written back as read
+    std::array<std::uint8_t, 4> countReserved{};  // of the file in hand, written back as read
+    std::string filePath;                         // of the battle in hand, as it was chosen
     Snapshot beforePass;
     Snapshot afterPass;
 

@@ -44,7 +44,8 @@ struct GameState {
     int armyRouted = 0;
     int unitLimit = kLeastUnitLimit;  // loops over an army run from 1 to unitLimit - 1
     int mapReady = 0;
-    int turnLocked = 0;  // no more orders
+    int turnLocked = 0;         // no more orders
+    bool programEnded = false;  // the player has left
     int fileChosen = 0;
     int fileNameKnown = 0;
     bool existingBattle = false;  // the battle in hand was opened from a saved file
@@ -96,6 +97,7 @@ struct GameState {
     bool haltBeforeContact = false;
     bool alliesApart = false;
     int steadyNerves = 0;
+    int steadyNervesArmy = 0;  // army that drew the card
     int strikeDrawCard = 0;
     int cardShown = 0;
 

@@ -123,7 +123,7 @@ struct Unit {
     int arrivalChance = 0;
     int ammunition = 0;
     int attackedFlag = 0;
-    int reservedH = 0;
+    int reservedH = 0;  // 1: has fought by leadership this turn
     int reservedI = 0;
     int visible = 0;
     int leaderSound = 0;

@@ -1,0 +1,14 @@
+// Saving a battle. A scenario is never written over: its first save asks for a name.
+#pragma once
+
+#include "model/game.h"
+
+namespace varnstride {
+
+// Writes to the file in hand and says so; a failure is told and the game goes on.
+void SaveBattleFile(Game& game);
+
+// Asks for a file first.
+void SaveBattleFileAs(Game& game);
+
+}  // namespace varnstride

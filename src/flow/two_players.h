@@ -1,0 +1,30 @@
+// Play by e-mail: the snapshots round the battle pass, the passwords, the first-turn hand-over;
+// and the Stop Clock of any mode.
+#pragma once
+
+#include "model/game.h"
+
+namespace varnstride {
+
+// Keeps units, losses and slots as they stand before the battle pass.
+void TakeBeforePass(Game& game);
+
+// Round the writing of a finished turn: the state before the pass takes the place of the live one,
+// and the live one comes back. Both do nothing without a snapshot of this run.
+void ExchangeForSave(Game& game);
+void PutBackAfterPass(Game& game);
+
+// Copies the after-pass state of this run into the live state; false when there is none.
+bool RestoreAfterPass(Game& game);
+
+// Asks for or sets the password of a file just opened; gameMode becomes Quit when it is declined.
+void CheckPasswords(Game& game);
+
+// Whether the person must hand the first turn to the other player; tells him, and the phase becomes
+// HandOver.
+bool HandOverFirstTurn(Game& game);
+
+// One second of a player's turn.
+void StopClockTick(Game& game);
+
+}  // namespace varnstride
