@@ -1,20 +1,25 @@
 #include "support/field.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "model/units_on_map.h"
 
 namespace varnstride {
 namespace {
 
-constexpr int kAreaIds = 9;  // 21 to 29, used again and again
+int AreaIdOf(int column, int row, int columns) {
+    constexpr int kFirstId = 21;
+    constexpr int kIds = 9;  // used again and again
+    return kFirstId + (row * columns + column) % kIds;
+}
 
 // The areas at the right-hand edge have no bound there, so that they hold the last column too.
 AreaRow RowOf(const FieldPlan& plan, int column, int row) {
     const int left = column * kFieldAreaWidth;
     const int top = row * kFieldAreaHeight;
     AreaRow area;
-    area.areaId = 21 + (row * plan.columns + column) % kAreaIds;
+    area.areaId = AreaIdOf(column, row, plan.columns);
     area.xAbove = left - 1;
     if (column + 1 < plan.columns) area.xBelow = left + kFieldAreaWidth;
     area.yAbove = top - 1;
@@ -37,10 +42,15 @@ std::vector<AreaRow> RowsOf(const FieldPlan& plan) {
     return rows;
 }
 
-int AreaIdAt(const std::vector<AreaRow>& rows, Cell cell, int columns) {
+int AreaIdAt(Cell cell, int columns) {
     const int column = std::min(cell.x / kFieldAreaWidth, columns - 1);
-    const int row = cell.y / kFieldAreaHeight;
-    return rows[static_cast<std::size_t>(row * columns + column)].areaId;
+    return AreaIdOf(column, cell.y / kFieldAreaHeight, columns);
+}
+
+Atlas AtlasOf(const FieldPlan& plan) {
+    std::vector<AreaRow> rows = RowsOf(plan);
+    if (plan.redraw) plan.redraw(rows);
+    return {plan.mapNumber, std::move(rows), plan.links};
 }
 
 Grid GridOf(const FieldPlan& plan, const Atlas& atlas) {
@@ -50,7 +60,7 @@ Grid GridOf(const FieldPlan& plan, const Atlas& atlas) {
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
             MapCell cell;
-            cell.areaId = AreaIdAt(atlas.Rows(), {x, y}, plan.columns);
+            cell.areaId = AreaIdAt({x, y}, plan.columns);
             if (plan.paint) plan.paint({x, y}, cell);
             cells.push_back(cell);
         }
@@ -61,9 +71,7 @@ Grid GridOf(const FieldPlan& plan, const Atlas& atlas) {
 }  // namespace
 
 Field::Field(const FieldPlan& plan)
-    : catalogue(std::vector<Atlas>{Atlas(plan.mapNumber, RowsOf(plan), plan.links)}),
-      game(catalogue, person),
-      used_(kArmyCount, 0) {
+    : catalogue(std::vector<Atlas>{AtlasOf(plan)}), game(catalogue, person), used_(kArmyCount, 0) {
     game.atlas = catalogue.Find(plan.mapNumber);
     game.header.mapNumber = plan.mapNumber;
     game.grid = GridOf(plan, *game.atlas);
@@ -76,9 +84,13 @@ Cell Field::SlotCell(Side side, int ordinal, int slot) const {
                                  : row.alliedSlots)[static_cast<std::size_t>(slot - 1)];
 }
 
-UnitId Field::Add(int army, int ordinal, int slot, const Unit& unit) {
-    const UnitId id{army, ++used_[static_cast<std::size_t>(army)]};
+UnitId Field::NextRecord(int army) {
     game.Army(army).present = 1;
+    return {army, ++used_[static_cast<std::size_t>(army)]};
+}
+
+UnitId Field::Add(int army, int ordinal, int slot, const Unit& unit) {
+    const UnitId id = NextRecord(army);
     game.At(id) = unit;
     PlaceUnit(game, id, SlotCell(SideOf(army), ordinal, slot));
     return id;

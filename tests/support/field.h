@@ -20,7 +20,8 @@ struct FieldPlan {
     int columns = 3;  // of areas; the grid has one more column of cells, which nobody plays on
     int rows = 1;     // of areas
     std::vector<AreaLink> links;
-    std::function<void(Cell, MapCell&)> paint;  // changes a cell before the grid is made
+    std::function<void(Cell, MapCell&)> paint;          // changes a cell before the grid is made
+    std::function<void(std::vector<AreaRow>&)> redraw;  // changes the areas; cells stay as they are
 };
 
 class Field {
@@ -38,6 +39,9 @@ class Field {
 
     // Stands a unit in a slot of its side under the next free record of its army.
     UnitId Add(int army, int ordinal, int slot, const Unit& unit);
+
+    // The next free record of the army, which takes part from now on.
+    UnitId NextRecord(int army);
 
     // Takes the unit in hand, with selectedCell on it.
     void TakeInHand(UnitId id);
