@@ -14,8 +14,11 @@ void TakeBeforePass(Game& game);
 void ExchangeForSave(Game& game);
 void PutBackAfterPass(Game& game);
 
-// Copies the after-pass state of this run into the live state; false when there is none.
-bool RestoreAfterPass(Game& game);
+// Whether this run has kept the state after the last battle pass that it saved.
+bool HasAfterPass(const Game& game);
+
+// Copies that state into the live one.
+void RestoreAfterPass(Game& game);
 
 // Asks for or sets the password of a file just opened; gameMode becomes Quit when it is declined.
 void CheckPasswords(Game& game);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/cell.h"
+#include "model/unit.h"
 
 namespace varnstride {
 
@@ -12,6 +13,7 @@ struct BattleState {
     int terrainDefence = 0;
     bool attackRunning = false;  // a census then leaves targetArmy alone
     int defenderTested = 0;
+    UnitId testedAgainst;  // the attacker, while the target is tested
     int moraleHeld = 0;
     int testScore = 0;
     int requiredLeadership = 0;

@@ -22,8 +22,8 @@ struct Control {
 
 struct Dialog {
     int templateId = 0;
-    std::string caption;
-    std::vector<Control> controls;
+    std::string caption{};
+    std::vector<Control> controls{};
     int closedBy = 0;  // set by the person: the control that closed it; 0 closed without an answer
 
     // The control of that id, which must be one of the dialog's.
@@ -44,7 +44,7 @@ struct Dialog {
 enum class BoxButtons { Ok, OkCancel };
 
 struct MessageBox {
-    std::string caption;
+    std::string caption{};
     std::string text;
     BoxButtons buttons = BoxButtons::Ok;
 };

@@ -109,6 +109,10 @@ struct GameState {
     int rollLogActive = 0;
     int courierCode = 0;
 
+    // Music.
+    int musicTrack = 0;
+    int musicSeconds = 0;
+
     // Map filters and options of this run.
     int unitsOff = 0;
     int combatBoxTimer = 0;

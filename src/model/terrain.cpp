@@ -31,15 +31,6 @@ bool Between(int tile, int first, int last) {
     return tile >= first && tile <= last;
 }
 
-template <typename Test>
-int CountSlots(Game& game, Test test) {
-    const AreaSlots& slots = game.state.currentAreaSlots;
-    const auto count = std::count_if(slots.begin(), slots.end(), [&](Cell slot) {
-        return game.grid.Holds(slot) && test(game.grid.Ground(slot));
-    });
-    return game.state.closeSlots = static_cast<int>(count);
-}
-
 std::string_view WordsForOpen(int groundTile) {
     if (Between(groundTile, 36, 53)) return "     Sand";
     if (Between(groundTile, 72, 107)) return "  Frozen Ground";
@@ -152,14 +143,27 @@ bool IsBuiltUp(const GroundCell& cell) {
     return IsVillage(cell) || IsBuilding(cell) || IsForest(cell);
 }
 
+bool IsNotOpen(const GroundCell& cell) {
+    return !IsOpen(cell);
+}
+
+int CountSlotsThat(const Game& game, const AreaSlots& slots, bool (*test)(const GroundCell&)) {
+    const auto count = std::count_if(slots.begin(), slots.end(), [&](Cell slot) {
+        return game.grid.Holds(slot) && test(game.grid.Ground(slot));
+    });
+    return static_cast<int>(count);
+}
+
 int CountCloseSlots(Game& game) {
-    return CountSlots(game, [](const GroundCell& cell) { return !IsOpen(cell); });
+    return game.state.closeSlots = CountSlotsThat(game, game.state.currentAreaSlots, IsNotOpen);
 }
+
 int CountDenseSlots(Game& game) {
-    return CountSlots(game, IsDense);
+    return game.state.closeSlots = CountSlotsThat(game, game.state.currentAreaSlots, IsDense);
 }
+
 int CountBuiltUpSlots(Game& game) {
-    return CountSlots(game, IsBuiltUp);
+    return game.state.closeSlots = CountSlotsThat(game, game.state.currentAreaSlots, IsBuiltUp);
 }
 
 std::string DescribeTerrain(const Game& game, Cell cell) {

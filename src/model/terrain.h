@@ -33,6 +33,11 @@ bool IsBuiltUp(const GroundCell& cell);  // village, building or forest
 
 constexpr int kCloseTerrain = 3;  // an area with so many slots that are not open is close
 
+bool IsNotOpen(const GroundCell& cell);
+
+// How many of the six slots pass a test.
+int CountSlotsThat(const Game& game, const AreaSlots& slots, bool (*test)(const GroundCell&));
+
 // Counts over the six slots of currentAreaSlots, left in closeSlots as well.
 int CountCloseSlots(Game& game);
 int CountDenseSlots(Game& game);

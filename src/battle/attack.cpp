@@ -1,0 +1,11 @@
+#include "battle/attack.h"
+
+namespace varnstride {
+
+void ComputeTerrainDefence(Game&) {
+}
+
+void ResolveAttack(Game&) {
+}
+
+}  // namespace varnstride
