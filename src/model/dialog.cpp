@@ -23,27 +23,44 @@ Control& Dialog::At(int id) {
 }
 
 void Dialog::AddLabel(int id, std::string text) {
-    controls.push_back({id, Control::Kind::Label, std::move(text), 0, {}});
+    controls.push_back({.id = id, .kind = Control::Kind::Label, .text = std::move(text)});
 }
 
 void Dialog::AddEdit(int id, std::string text) {
-    controls.push_back({id, Control::Kind::Edit, std::move(text), 0, {}});
+    controls.push_back({.id = id, .kind = Control::Kind::Edit, .text = std::move(text)});
 }
 
 void Dialog::AddTick(int id, std::string label, bool ticked) {
-    controls.push_back({id, Control::Kind::Tick, std::move(label), ticked ? 1 : 0, {}});
+    controls.push_back({.id = id,
+                        .kind = Control::Kind::Tick,
+                        .text = std::move(label),
+                        .value = ticked ? 1 : 0});
 }
 
 void Dialog::AddRadio(int id, std::string label, bool ticked) {
-    controls.push_back({id, Control::Kind::Radio, std::move(label), ticked ? 1 : 0, {}});
+    if (controls.empty() || controls.back().kind != Control::Kind::Radio) StartRadioGroup();
+    controls.push_back({.id = id,
+                        .kind = Control::Kind::Radio,
+                        .text = std::move(label),
+                        .value = ticked ? 1 : 0,
+                        .group = radioGroup});
 }
 
 void Dialog::AddList(int id, std::vector<std::string> lines) {
-    controls.push_back({id, Control::Kind::List, {}, -1, std::move(lines)});
+    controls.push_back(
+        {.id = id, .kind = Control::Kind::List, .value = -1, .lines = std::move(lines)});
 }
 
 void Dialog::AddButton(int id, std::string label) {
-    controls.push_back({id, Control::Kind::Button, std::move(label), 0, {}});
+    controls.push_back({.id = id, .kind = Control::Kind::Button, .text = std::move(label)});
+}
+
+void Dialog::Choose(int radio) {
+    const int group = At(radio).group;
+    for (Control& control : controls) {
+        if (control.kind == Control::Kind::Radio && control.group == group) control.value = 0;
+    }
+    At(radio).value = 1;
 }
 
 }  // namespace varnstride

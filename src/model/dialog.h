@@ -15,9 +15,10 @@ struct Control {
 
     int id = 0;
     Kind kind = Kind::Label;
-    std::string text;  // caption of a tick, radio or button; content of label and edit
+    std::string text{};  // caption of a tick, radio or button; content of label and edit
     int value = 0;     // tick, radio: 0 or 1; list: the chosen line from 0, -1 none
-    std::vector<std::string> lines;  // list only
+    int group = 0;     // radio only: choosing one puts out the others of its group
+    std::vector<std::string> lines{};  // list only
 };
 
 struct Dialog {
@@ -37,8 +38,16 @@ struct Dialog {
     void AddEdit(int id, std::string text);
     void AddTick(int id, std::string label, bool ticked);
     void AddRadio(int id, std::string label, bool ticked);
+    // The radios that are added from here on form a group of their own. A radio that follows a
+    // control of another kind starts one in any case.
+    void StartRadioGroup() { ++radioGroup; }
     void AddList(int id, std::vector<std::string> lines);
     void AddButton(int id, std::string label);
+
+    // Ticks a radio, which must be one of the dialog's, as a press on it does.
+    void Choose(int radio);
+
+    int radioGroup = 0;  // of the radio added last
 };
 
 enum class BoxButtons { Ok, OkCancel };

@@ -3,9 +3,11 @@
 // tests each have their own.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 
+#include "model/attack_report.h"
 #include "model/dialog.h"
 #include "resources/sounds.h"
 
@@ -36,6 +38,11 @@ class Person {
     // Lets the person pick a file; nothing when the choice is cancelled.
     virtual std::optional<std::string> ChooseFile(const FileQuestion& question) = 0;
 
+    // An attack is over; told in either way of showing results, before the result box opens.
+    virtual void Fought(const AttackReport& report) = 0;
+    // A battle has been written to a file of so many bytes.
+    virtual void Saved(const std::string& path, std::size_t bytes) = 0;
+
     virtual void Play(Sound sound) = 0;
     virtual void Loop(Sound sound) = 0;
     virtual void Stop(Sound sound) = 0;
@@ -58,6 +65,8 @@ class SilentPerson : public Person {
     bool Confirm(const MessageBox&) override { return true; }
     void Read(const CourierMessage&) override {}
     std::optional<std::string> ChooseFile(const FileQuestion&) override { return std::nullopt; }
+    void Fought(const AttackReport&) override {}
+    void Saved(const std::string&, std::size_t) override {}
     void Play(Sound) override {}
     void Loop(Sound) override {}
     void Stop(Sound) override {}

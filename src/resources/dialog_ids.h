@@ -4,8 +4,15 @@
 namespace varnstride {
 
 constexpr int kCommandReport = 144;
+constexpr int kVictory = 149;
 constexpr int kGameEnd = 269;
+constexpr int kScenarioDescription = 316;
+constexpr int kScenarioInformation = 324;
 constexpr int kRoutedUnitReport = 338;
+constexpr int kSpeedOfAction = 396;
 constexpr int kStartScreen = 398;
+constexpr int kEndGameStatus = 427;
+constexpr int kScenarioSettings = 452;
+constexpr int kCardReminder = 643;
 
 }  // namespace varnstride
