@@ -26,6 +26,8 @@ class TwoPlayers : public testing::Test {
         prussian_ = field_.Add(kPrussian, 2, 1, MakeUnit(UnitType::LineInfantry));
     }
 
+    void TearDown() override { EXPECT_TRUE(person_.IsDone()) << "an answer was not asked for"; }
+
     // What a battle pass may do: a loss, a retreat, smoke.
     void Fight() {
         game_.At(french_).strength -= 2;
@@ -164,7 +166,6 @@ TEST_F(TwoPlayers, PasswordCheckNamesTheSideThatOpens) {
         CheckPasswords(game_);
         EXPECT_EQ(person_.asked.back().At(1403).text, row.name);
     }
-    EXPECT_TRUE(person_.IsDone());
 }
 
 TEST_F(TwoPlayers, EitherPasswordOpensAWrongOneAsksAgain) {
@@ -172,7 +173,6 @@ TEST_F(TwoPlayers, EitherPasswordOpensAWrongOneAsksAgain) {
     for (const char* typed : {"First", "", "firs", "second"})
         person_.Expect(kPasswordCheck, Type(1402, typed, kOk));
     CheckPasswords(game_);
-    EXPECT_TRUE(person_.IsDone());
     EXPECT_EQ(person_.played.size(), 3u);
     EXPECT_EQ(game_.state.gameMode, GameMode::PlayByEmail);
 }
