@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "app/commands.h"
 #include "app/info_bar.h"
 #include "app/orders_field.h"
@@ -204,10 +206,15 @@ TEST(Road, ServesTheUnitTakenInHandAndNoLonger) {
         OrdersField field;
         field.Add(kFrench, 1, 1, given.unit);
         field.Add(kFrench, 1, 2, given.unit);
-        for (int panel : {1, 2}) {
+        const std::function<void()> choices[] = {
+            [&] { OnPanelClick(field.game, 1); },
+            [&] { OnPanelClick(field.game, 2); },
+            [&] { DispatchKey(field.game, Key::Two); },
+        };
+        for (const std::function<void()>& choose : choices) {
             OnLeftClick(field.game, field.Ground(1));
             EXPECT_FALSE(field.IsLit(3));
-            OnPanelClick(field.game, panel);
+            choose();
             EXPECT_EQ(field.IsLit(3), given.byRoad);
             EXPECT_FALSE(field.game.state.roadMover);
         }
