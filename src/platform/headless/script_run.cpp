@@ -34,9 +34,7 @@ Result<Done> CheckFiles(const Script& script, const AtlasCatalogue& atlases) {
 class ScriptRun {
  public:
     ScriptRun(const AtlasCatalogue& atlases, std::ostream& out)
-        : events_(out),
-          person_(events_),
-          game_(FreshGame(atlases, person_, HeadlessSettings())) {}
+        : events_(out), person_(events_), game_(FreshGame(atlases, person_, HeadlessSettings())) {}
 
     // Plays to the end of the script, or of the program.
     void Play(const Script& script) {
@@ -72,7 +70,8 @@ class ScriptRun {
     }
 
     void NeedBattle() const {
-        if (game_.atlas == nullptr) throw ScriptError(line, "no battle is open; expected: new FILE");
+        if (game_.atlas == nullptr)
+            throw ScriptError(line, "no battle is open; expected: new FILE");
     }
     void Pass();
     void NoteOpenedBattle();
