@@ -23,6 +23,7 @@ const std::vector<Floor>& Floors() {
         {"resources", {}},
         {"model", {"resources"}},
         {"files", {"model"}},
+        {"atlases", {"model"}},
         {"actions", {"model", "resources"}},
         {"battle", {"model", "resources", "actions"}},
         {"opponent", {"model", "resources", "actions", "battle"}},
