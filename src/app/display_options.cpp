@@ -26,21 +26,17 @@ constexpr std::array<Speed, 4> kSpeeds = {{
     {1494, 1600, "Very Fast"},
 }};
 
-// The radio newly ticked wins over the one that the dialog opened with.
 void AskSpeedOfAction(Game& game) {
     Dialog dialog{.templateId = kSpeedOfAction, .caption = "Speed of Action"};
-    const int before = game.state.resultPause;
     for (const Speed& speed : kSpeeds) {
-        dialog.AddRadio(speed.radio, speed.label, speed.milliseconds == before);
+        dialog.AddRadio(speed.radio, speed.label, speed.milliseconds == game.state.resultPause);
     }
     dialog.AddButton(kOk, "OK");
     dialog.AddButton(kCancel, "Cancel");
     game.person->Ask(dialog);
     if (dialog.closedBy != kOk) return;
     for (const Speed& speed : kSpeeds) {
-        if (dialog.IsTicked(speed.radio) && speed.milliseconds != before) {
-            game.state.resultPause = speed.milliseconds;
-        }
+        if (dialog.IsTicked(speed.radio)) game.state.resultPause = speed.milliseconds;
     }
     game.settings.resultPauseSetting = game.state.resultPause;
 }

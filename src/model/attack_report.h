@@ -16,10 +16,10 @@ struct AttackReport {
     std::string targetName;
     int attackStrike = 0;
     int defenceStrike = 0;
-    int defenderHit = 0;   // morale the target lost to the blow
-    int attackerHit = 0;   // morale the attacker lost to the answer
-    int defenderLoss = 0;  // strength points
-    int attackerLoss = 0;  // strength points
+    int defenderHit = 0;             // morale the target lost to the blow
+    int attackerHit = 0;             // morale the attacker lost to the answer
+    int defenderLoss = 0;            // strength points
+    int attackerLoss = 0;            // strength points
     std::vector<std::string> lines;  // the list of the result box: what counted in the strike
 };
 
