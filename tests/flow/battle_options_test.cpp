@@ -8,7 +8,7 @@
 
 #include "resources/dialog_ids.h"
 #include "support/field.h"
-#include "support/scripted_person.h"
+#include "support/prepared_person.h"
 
 namespace varnstride {
 namespace {
@@ -19,7 +19,7 @@ class BattleOptions : public testing::Test {
 
     Field field_;
     Game& game_ = field_.game;
-    ScriptedPerson person_;
+    PreparedPerson person_;
 };
 
 using Values = std::vector<int>;
@@ -85,7 +85,7 @@ TEST_F(BattleOptions, ScenarioControlsSetTheirFields) {
     for (const Row& row : kScenarioRows) {
         SCOPED_TRACE(row.name);
         Field field({});
-        ScriptedPerson person;
+        PreparedPerson person;
         field.game.person = &person;
         field.game.state.gameMode = row.mode;
         field.game.settings.computerSide = 1;

@@ -49,7 +49,7 @@ class OpenBattle : public testing::Test {
     BattleOnDisk disk_;
     std::unique_ptr<Program> program_ = disk_.NewProgram();
     Game& game_ = program_->game;
-    ScriptedPerson& person_ = program_->person;
+    PreparedPerson& person_ = program_->person;
 };
 
 TEST_F(OpenBattle, ANewBattleBeginsWithItsFirstSide) {

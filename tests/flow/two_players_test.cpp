@@ -9,7 +9,7 @@
 #include "model/units_on_map.h"
 #include "resources/dialog_ids.h"
 #include "support/field.h"
-#include "support/scripted_person.h"
+#include "support/prepared_person.h"
 
 namespace varnstride {
 namespace {
@@ -60,7 +60,7 @@ class TwoPlayers : public testing::Test {
 
     Field field_;
     Game& game_ = field_.game;
-    ScriptedPerson person_;
+    PreparedPerson person_;
     UnitId french_;
     UnitId prussian_;
 };

@@ -7,7 +7,7 @@
 
 #include "files/battle_file.h"
 #include "support/field.h"
-#include "support/scripted_person.h"
+#include "support/prepared_person.h"
 
 namespace varnstride {
 
@@ -15,7 +15,7 @@ namespace varnstride {
 struct Program {
     explicit Program(const AtlasCatalogue& atlases) : game(atlases, person) {}
 
-    ScriptedPerson person;
+    PreparedPerson person;
     Game game;
 };
 

@@ -1,4 +1,4 @@
-#include "support/scripted_person.h"
+#include "support/prepared_person.h"
 
 #include <gtest/gtest.h>
 
@@ -23,7 +23,7 @@ void PressOne(Dialog& dialog, int id) {
 
 }  // namespace
 
-void ScriptedPerson::Ask(Dialog& dialog) {
+void PreparedPerson::Ask(Dialog& dialog) {
     asked.push_back(dialog);
     dialog.closedBy = kCancel;
     std::deque<Answer>& waiting = answers_[dialog.templateId];
@@ -34,39 +34,39 @@ void ScriptedPerson::Ask(Dialog& dialog) {
     TakeFirst(waiting)(dialog);
 }
 
-bool ScriptedPerson::Confirm(const MessageBox& box) {
+bool PreparedPerson::Confirm(const MessageBox& box) {
     boxes.push_back(box.caption + "|" + box.text);
     if (whileBoxIsOpen) whileBoxIsOpen();
     return true;
 }
 
-std::optional<std::string> ScriptedPerson::ChooseFile(const FileQuestion& question) {
+std::optional<std::string> PreparedPerson::ChooseFile(const FileQuestion& question) {
     choosers.push_back(question);
     if (!picks_.empty()) return TakeFirst(picks_);
     ADD_FAILURE() << "nobody expected the choice of a file";
     return std::nullopt;
 }
 
-std::vector<int> ScriptedPerson::TemplatesAsked() const {
+std::vector<int> PreparedPerson::TemplatesAsked() const {
     std::vector<int> templates;
     for (const Dialog& dialog : asked)
         templates.push_back(dialog.templateId);
     return templates;
 }
 
-bool ScriptedPerson::IsDone() const {
+bool PreparedPerson::IsDone() const {
     return picks_.empty() &&
            std::ranges::all_of(answers_, [](const auto& entry) { return entry.second.empty(); });
 }
 
-ScriptedPerson::Answer Press(std::vector<int> controls) {
+PreparedPerson::Answer Press(std::vector<int> controls) {
     return [controls = std::move(controls)](Dialog& dialog) {
         for (int id : controls)
             PressOne(dialog, id);
     };
 }
 
-ScriptedPerson::Answer Type(int edit, std::string text, int button) {
+PreparedPerson::Answer Type(int edit, std::string text, int button) {
     return [edit, text = std::move(text), button](Dialog& dialog) {
         dialog.At(edit).text = text;
         dialog.closedBy = button;

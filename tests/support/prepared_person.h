@@ -13,7 +13,7 @@
 
 namespace varnstride {
 
-class ScriptedPerson : public SilentPerson {
+class PreparedPerson : public SilentPerson {
  public:
     using Answer = std::function<void(Dialog&)>;
 
@@ -46,9 +46,9 @@ class ScriptedPerson : public SilentPerson {
 };
 
 // Presses the controls one after the other; the last is the button that closes the dialog.
-ScriptedPerson::Answer Press(std::vector<int> controls);
+PreparedPerson::Answer Press(std::vector<int> controls);
 
 // Types into the edit, then presses the button.
-ScriptedPerson::Answer Type(int edit, std::string text, int button);
+PreparedPerson::Answer Type(int edit, std::string text, int button);
 
 }  // namespace varnstride
