@@ -19,4 +19,8 @@ constexpr int kEndGameStatus = 427;
 constexpr int kScenarioSettings = 452;
 constexpr int kCardReminder = 643;
 
+constexpr int kFormationChange = 342;
+constexpr int kDetachFormation = 364;
+constexpr int kRotateUnits = 614;
+
 }  // namespace varnstride
