@@ -32,6 +32,9 @@ void ShiftUnit(Game& game, UnitId id, Cell cell);
 // to the caller, who may have cleared it before.
 void DestroyUnit(Game& game, UnitId id);
 
+// Gives the record of a unit that another has taken in back for new ones.
+void FreeRecord(Game& game, UnitId id);
+
 // Leads a unit off by an exit: it keeps its strength and the cell that it left from.
 void LeadOffMap(Game& game, UnitId id);
 
