@@ -1,5 +1,6 @@
 #include "bench/reference_scan.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace varnstride {
@@ -39,15 +40,20 @@ bool SecondStepServes(const Game& game, const Unit& unit, const AreaLink& link) 
     return link.secondStep == SecondStep::RoadOnly && (marching || game.state.roadMover);
 }
 
-bool IsReached(const Game& game, Cell cell, int own) {
+// The areas that the unit in hand reaches from its own.
+std::vector<AreaRow> RowsReached(const Game& game, int own) {
     const Unit& unit = game.InHand();
-    const bool ownCounts = game.state.bombardmentMode == 0 && !game.state.ownAreaLeftOut;
-    if (ownCounts && BelongsTo(game, cell, game.atlas->Row(own))) return true;
-    for (const AreaLink& link : game.atlas->Links()) {
-        if (link.from != own || !BelongsTo(game, cell, game.atlas->Row(link.to))) continue;
-        if (FirstStepServes(game, unit, link) || SecondStepServes(game, unit, link)) return true;
+    std::vector<AreaRow> rows;
+    if (game.state.bombardmentMode == 0 && !game.state.ownAreaLeftOut) {
+        rows.push_back(game.atlas->Row(own));
     }
-    return false;
+    for (const AreaLink& link : game.atlas->Links()) {
+        if (link.from != own) continue;
+        if (FirstStepServes(game, unit, link) || SecondStepServes(game, unit, link)) {
+            rows.push_back(game.atlas->Row(link.to));
+        }
+    }
+    return rows;
 }
 
 bool IsPresent(const Game& game, const Unit& unit) {
@@ -104,11 +110,15 @@ Goal GoalOf(const Game& game) {
 void ScanReach(const Game& game, std::vector<int>& shade) {
     const int own = OrdinalOf(game, game.state.selectedCell);
     if (own == 0) return;
+    const std::vector<AreaRow> reached = RowsReached(game, own);
     for (int y = 0; y < game.grid.Height(); ++y) {
         for (int x = 0; x + 1 < game.grid.Width(); ++x) {
             int& here = shade[static_cast<std::size_t>(y * game.grid.Width() + x)];
             if (!game.state.rangeKeepLit) here = 1;
-            if (IsReached(game, {x, y}, own)) here = 0;
+            const bool lit = std::any_of(reached.begin(), reached.end(), [&](const AreaRow& row) {
+                return BelongsTo(game, {x, y}, row);
+            });
+            if (lit) here = 0;
         }
     }
 }

@@ -1,4 +1,5 @@
-// Every menu item, toolbar button and key comes here as a plain number.
+// Every menu item, toolbar button and key comes here as a plain number or key and goes on to what
+// it stands for.
 #pragma once
 
 #include "model/game.h"

@@ -38,6 +38,11 @@ void StopMusic(Game& game) {
 
 }  // namespace
 
+void StopAmbient(Game& game) {
+    for (const Ambience& ambience : kAmbience)
+        game.person->Stop(ambience.sound);
+}
+
 void StartAmbient(Game& game) {
     StopMusic(game);
     const Sound chosen = AmbientOf(game.header.visibility);
@@ -51,8 +56,7 @@ void StartMusic(Game& game) {
     game.state.musicSeconds = 0;
     StopMusic(game);
     if (game.settings.backgroundMusic != 1) return;
-    for (const Ambience& ambience : kAmbience)
-        game.person->Stop(ambience.sound);
+    StopAmbient(game);
     game.state.musicTrack = Die(game, static_cast<int>(kTracks.size())) + 1;
     game.person->Loop(kTracks[static_cast<std::size_t>(game.state.musicTrack - 1)]);
 }

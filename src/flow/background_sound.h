@@ -5,6 +5,9 @@
 
 namespace varnstride {
 
+// Stops the ambient loop that plays.
+void StopAmbient(Game& game);
+
 // Starts the ambient loop of the visibility; music and the other loops stop.
 void StartAmbient(Game& game);
 

@@ -41,15 +41,6 @@ bool IsDraw(const Game& game) {
            game.state.victoryScore < game.header.minorVictoryLimit;
 }
 
-// 0 a major defeat of the first side to 4 its major victory.
-int LevelOfFirstSide(const Game& game) {
-    const int score = game.state.victoryScore;
-    if (score <= game.header.majorDefeatLimit) return 0;
-    if (score <= game.header.minorDefeatLimit) return 1;
-    if (score < game.header.minorVictoryLimit) return 2;
-    return score < game.header.majorVictoryLimit ? 3 : 4;
-}
-
 bool SpeaksToFirstSide(const Game& game) {
     const Side first = SideOf(game.header.firstPlayer);
     if (game.state.computerPlays == 0) return SideOf(game.header.savedArmy) == first;

@@ -23,4 +23,12 @@ void AfterLoad(Game& game);
 void StartNewBattle(Game& game);          // ChooseScenario, NewBattleSetup, AfterLoad
 void ContinueExistingBattle(Game& game);  // LoadBattleFile, AfterLoad
 
+// File Open in the middle of a battle: a scenario takes the place of the battle in hand, which is
+// given up when none is chosen and stays untouched when the file is bad. Sets fileChosen.
+void OpenFromMenu(Game& game);
+
+// Gives the battle in hand up: the state of a fresh program, but for unitLimit, mapReady and the
+// options of this run, and empty armies.
+void ResetForOpen(Game& game);
+
 }  // namespace varnstride

@@ -12,6 +12,7 @@
 #include "flow/command_report.h"
 #include "flow/fog_of_war.h"
 #include "flow/game_pass.h"
+#include "flow/map_filters.h"
 #include "model/score.h"
 #include "model/unit_rules.h"
 #include "model/units_on_map.h"
@@ -89,18 +90,6 @@ void ReportOnArmy(Game& game) {
     game.person->Redraw(View::Frame);
     ShowCommandReport(game);
     game.person->Redraw(View::Frame);
-}
-
-void ClearHighlight(Game& game) {
-    for (PlayCell& cell : game.grid.PlayCells())
-        cell.highlight = 0;
-}
-
-void SwitchFiltersOff(Game& game) {
-    GameState& state = game.state;
-    state.highlightFixed = state.highlightDisrupted = state.highlightRouted = 0;
-    state.highlightElite = state.highlightLeaders = state.highlightLowAmmo = 0;
-    state.highlightOutOfCommand = 0;
 }
 
 void ClearMoveMarks(Game& game) {

@@ -2,19 +2,22 @@
 // and the Stop Clock of any mode.
 #pragma once
 
+#include <string>
+
 #include "model/game.h"
 
 namespace varnstride {
 
-// Keeps units, losses and slots as they stand before the battle pass.
+// Keeps units, losses and marks as they stand before the battle pass, and the card effects in force
+// at the head of the roll log.
 void TakeBeforePass(Game& game);
 
 // Round the writing of a finished turn: the state before the pass takes the place of the live one,
-// and the live one comes back. Both do nothing without a snapshot of this run.
+// and the live one comes back. Both do nothing without a snapshot of the battle in hand.
 void ExchangeForSave(Game& game);
 void PutBackAfterPass(Game& game);
 
-// Whether this run has kept the state after the last battle pass that it saved.
+// Whether this run has kept the state after the battle pass that the file just opened tells of.
 bool HasAfterPass(const Game& game);
 
 // Copies that state into the live one.
@@ -27,7 +30,10 @@ void CheckPasswords(Game& game);
 // HandOver.
 bool HandOverFirstTurn(Game& game);
 
-// One second of a player's turn.
+// One second of a player's turn; ends it when the time allowed is up. A finished turn has no clock.
 void StopClockTick(Game& game);
+
+// What the information bar shows of the clock: "Clock 2 mins 5 secs".
+std::string StopClockText(const GameState& state);
 
 }  // namespace varnstride

@@ -29,6 +29,8 @@ struct AreaRow {
 
     bool Holds(Cell cell) const;
     AreaSlots Slots() const;
+
+    friend bool operator==(const AreaRow&, const AreaRow&) = default;
 };
 
 enum class FirstStep { None, Open, FootOnly, FootOrRoad };

@@ -31,10 +31,8 @@ void Dialog::AddEdit(int id, std::string text) {
 }
 
 void Dialog::AddTick(int id, std::string label, bool ticked) {
-    controls.push_back({.id = id,
-                        .kind = Control::Kind::Tick,
-                        .text = std::move(label),
-                        .value = ticked ? 1 : 0});
+    controls.push_back(
+        {.id = id, .kind = Control::Kind::Tick, .text = std::move(label), .value = ticked ? 1 : 0});
 }
 
 void Dialog::AddRadio(int id, std::string label, bool ticked) {

@@ -16,8 +16,8 @@ struct Control {
     int id = 0;
     Kind kind = Kind::Label;
     std::string text{};  // caption of a tick, radio or button; content of label and edit
-    int value = 0;     // tick, radio: 0 or 1; list: the chosen line from 0, -1 none
-    int group = 0;     // radio only: choosing one puts out the others of its group
+    int value = 0;       // tick, radio: 0 or 1; list: the chosen line from 0, -1 none
+    int group = 0;       // radio only: choosing one puts out the others of its group
     std::vector<std::string> lines{};  // list only
 };
 

@@ -22,11 +22,20 @@ namespace varnstride {
 
 using ArmyUnits = std::array<Unit, kUnitsPerArmy>;
 
-// The units, the losses and the slots of a moment, kept for play by e-mail.
+// The units, the losses and the marks on the map of a moment, kept for play by e-mail.
 struct Snapshot {
-    std::vector<ArmyUnits> units;
+    struct Marks {
+        std::int16_t occupantMirror = 0;
+        std::int16_t occupant = 0;
+        std::int16_t roadTile = kNoRoad;
+    };
+
+    std::vector<ArmyUnits> units;  // none before the first is taken
     LossBlock loss;
-    std::vector<std::array<int, 2>> occupants;  // by rows: occupantMirror, occupant
+    std::vector<Marks> marks;           // by rows
+    unsigned armiesArrived = 0;         // bit of each army whose turn of the game turn had come
+    std::vector<std::int16_t> rollLog;  // as the file saved with it holds it
+    bool ofBattleInHand = false;        // taken since the battle in hand was opened
 };
 
 struct Game {

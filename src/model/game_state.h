@@ -53,7 +53,9 @@ struct GameState {
     int stopClock10 = 0;
     int stopClock15 = 0;
     int stopClockSeconds = 0;
-    int resultPause = 0;  // milliseconds
+    int resultPause = 0;        // milliseconds
+    bool chosenFrench = false;  // the person took that side when the battle was new
+    bool chosenAllied = false;
 
     // What is in hand.
     int currentUnit = 0;   // index in currentArmy; 0 none

@@ -21,7 +21,7 @@ struct RecordFields;
 template <>
 struct RecordFields<MapCell> {
     template <typename Visit>
-    static void ForEach(Visit visit) {
+    static constexpr void ForEach(Visit visit) {
         visit("occupant", &MapCell::occupant, Width::Int32);
         visit("terrainTile", &MapCell::terrainTile, Width::Int32);
         visit("groundTile", &MapCell::groundTile, Width::Int32);
@@ -43,7 +43,7 @@ struct RecordFields<MapCell> {
 template <>
 struct RecordFields<MapLabel> {
     template <typename Visit>
-    static void ForEach(Visit visit) {
+    static constexpr void ForEach(Visit visit) {
         visit("labelText", &MapLabel::labelText);
         visit("labelStyleRow", &MapLabel::labelStyleRow, Width::Int16);
         visit("labelStyleBlock", &MapLabel::labelStyleBlock, Width::Int16);
@@ -54,7 +54,7 @@ struct RecordFields<MapLabel> {
 template <>
 struct RecordFields<ScenarioHeader> {
     template <typename Visit>
-    static void ForEach(Visit visit) {
+    static constexpr void ForEach(Visit visit) {
         visit("visibility", &ScenarioHeader::visibility, Width::Int16);
         visit("lastTurn", &ScenarioHeader::lastTurn, Width::Int16);
         visit("firstPlayer", &ScenarioHeader::firstPlayer, Width::Int16);
@@ -83,7 +83,7 @@ struct RecordFields<ScenarioHeader> {
 template <>
 struct RecordFields<TimeBlock> {
     template <typename Visit>
-    static void ForEach(Visit visit) {
+    static constexpr void ForEach(Visit visit) {
         visit("clockField", &TimeBlock::clockField, Width::Int16);
         visit("duskHour", &TimeBlock::duskHour, Width::Int16);
         visit("dawnHour", &TimeBlock::dawnHour, Width::Int16);
@@ -97,7 +97,7 @@ struct RecordFields<TimeBlock> {
 template <>
 struct RecordFields<LossBlock> {
     template <typename Visit>
-    static void ForEach(Visit visit) {
+    static constexpr void ForEach(Visit visit) {
         visit("frenchLossSP", &LossBlock::frenchLossSP, Width::Int32);
         visit("alliedLossSP", &LossBlock::alliedLossSP, Width::Int32);
         visit("frenchLossPoints", &LossBlock::frenchLossPoints, Width::Int32);
@@ -108,7 +108,7 @@ struct RecordFields<LossBlock> {
 template <>
 struct RecordFields<ArmyRecord> {
     template <typename Visit>
-    static void ForEach(Visit visit) {
+    static constexpr void ForEach(Visit visit) {
         visit("present", &ArmyRecord::present, Width::Int16);
         visit("reservedArmyBytes", &ArmyRecord::reservedArmyBytes);
         visit("baseCommandPoints", &ArmyRecord::baseCommandPoints, Width::Int16);
@@ -121,7 +121,7 @@ struct RecordFields<ArmyRecord> {
 template <>
 struct RecordFields<BriefingRecord> {
     template <typename Visit>
-    static void ForEach(Visit visit) {
+    static constexpr void ForEach(Visit visit) {
         visit("reserved", &BriefingRecord::reserved, Width::Int16);
         visit("text", &BriefingRecord::text);
     }
@@ -130,7 +130,7 @@ struct RecordFields<BriefingRecord> {
 template <>
 struct RecordFields<Unit> {
     template <typename Visit>
-    static void ForEach(Visit visit) {
+    static constexpr void ForEach(Visit visit) {
         visit("x", &Unit::x, Width::Int32);
         visit("y", &Unit::y, Width::Int32);
         visit("reservedA", &Unit::reservedA, Width::Int32);
@@ -178,7 +178,7 @@ struct RecordFields<Unit> {
 template <>
 struct RecordFields<OptionBlock> {
     template <typename Visit>
-    static void ForEach(Visit visit) {
+    static constexpr void ForEach(Visit visit) {
         visit("reservedHead", &OptionBlock::reservedHead);
         visit("eventCardsOn", &OptionBlock::eventCardsOn, Width::Int16);
         visit("localInitiativeOn", &OptionBlock::localInitiativeOn, Width::Int16);
@@ -194,7 +194,7 @@ struct RecordFields<OptionBlock> {
 template <>
 struct RecordFields<Settings> {
     template <typename Visit>
-    static void ForEach(Visit visit) {
+    static constexpr void ForEach(Visit visit) {
         visit("cellOutline", &Settings::cellOutline, Width::Int16);
         visit("reservedA", &Settings::reservedA, Width::Int16);
         visit("hideUnitPanels", &Settings::hideUnitPanels, Width::Int16);

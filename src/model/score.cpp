@@ -90,6 +90,14 @@ void ComputeVictoryScore(Game& game) {
     game.state.victoryScore = sign * frenchScore + game.state.objectivePoints;
 }
 
+int LevelOfFirstSide(const Game& game) {
+    const int score = game.state.victoryScore;
+    if (score <= game.header.majorDefeatLimit) return 0;
+    if (score <= game.header.minorDefeatLimit) return 1;
+    if (score < game.header.minorVictoryLimit) return 2;
+    return score < game.header.majorVictoryLimit ? 3 : 4;
+}
+
 ArmyRout FindArmyRout(const GameState& state) {
     constexpr int kBroken = 20;
     constexpr int kSound = 40;

@@ -15,6 +15,10 @@ void RecomputeMorale(Game& game, ArmiesCounted armies);
 // Sets objectivePoints and victoryScore from the losses and the objectives held.
 void ComputeVictoryScore(Game& game);
 
+// How the battle stands for the side of firstPlayer: 0 a major defeat, 1 a minor one, 2 a draw, 3 a
+// minor victory, 4 a major one. The other side's level is 4 less that.
+int LevelOfFirstSide(const Game& game);
+
 enum class ArmyRout { None, FrenchRouted, AlliesRouted };
 ArmyRout FindArmyRout(const GameState& state);
 

@@ -44,6 +44,8 @@ struct StateFields<GameState> {
         visit("stopClock15", &GameState::stopClock15);
         visit("stopClockSeconds", &GameState::stopClockSeconds);
         visit("resultPause", &GameState::resultPause);
+        visit("chosenFrench", &GameState::chosenFrench);
+        visit("chosenAllied", &GameState::chosenAllied);
         visit("currentUnit", &GameState::currentUnit);
         visit("selectedSlot", &GameState::selectedSlot);
         visit("selectedCell", &GameState::selectedCell);

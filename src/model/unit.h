@@ -133,6 +133,8 @@ struct Unit {
 
     Cell Place() const { return {x, y}; }
     void SetPlace(Cell cell) { x = cell.x, y = cell.y; }
+
+    friend bool operator==(const Unit&, const Unit&) = default;
 };
 
 // A unit's identity: its army and its record in it.

@@ -17,13 +17,13 @@ int AreaIdOf(int column, int row, int columns) {
 // The areas at the right-hand edge have no bound there, so that they hold the last column too.
 AreaRow RowOf(const FieldPlan& plan, int column, int row) {
     const int left = column * kFieldAreaWidth;
-    const int top = row * kFieldAreaHeight;
+    const int top = row * plan.areaHeight;
     AreaRow area;
     area.areaId = AreaIdOf(column, row, plan.columns);
     area.xAbove = left - 1;
     if (column + 1 < plan.columns) area.xBelow = left + kFieldAreaWidth;
     area.yAbove = top - 1;
-    area.yBelow = top + kFieldAreaHeight;
+    area.yBelow = top + plan.areaHeight;
     for (int slot = 0; slot < kSlotsPerSide; ++slot) {
         const int x = left + 1 + 2 * slot;
         area.frenchSlots[static_cast<std::size_t>(slot)] = {x, top + 1};
@@ -42,9 +42,9 @@ std::vector<AreaRow> RowsOf(const FieldPlan& plan) {
     return rows;
 }
 
-int AreaIdAt(Cell cell, int columns) {
-    const int column = std::min(cell.x / kFieldAreaWidth, columns - 1);
-    return AreaIdOf(column, cell.y / kFieldAreaHeight, columns);
+int AreaIdAt(const FieldPlan& plan, Cell cell) {
+    const int column = std::min(cell.x / kFieldAreaWidth, plan.columns - 1);
+    return AreaIdOf(column, cell.y / plan.areaHeight, plan.columns);
 }
 
 Atlas AtlasOf(const FieldPlan& plan) {
@@ -55,12 +55,12 @@ Atlas AtlasOf(const FieldPlan& plan) {
 
 Grid GridOf(const FieldPlan& plan, const Atlas& atlas) {
     const int width = plan.columns * kFieldAreaWidth + 1;
-    const int height = plan.rows * kFieldAreaHeight;
+    const int height = plan.rows * plan.areaHeight;
     std::vector<MapCell> cells;
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
             MapCell cell;
-            cell.areaId = AreaIdAt({x, y}, plan.columns);
+            cell.areaId = AreaIdAt(plan, {x, y});
             if (plan.paint) plan.paint({x, y}, cell);
             cells.push_back(cell);
         }
@@ -90,9 +90,13 @@ UnitId Field::NextRecord(int army) {
 }
 
 UnitId Field::Add(int army, int ordinal, int slot, const Unit& unit) {
+    return AddAt(army, SlotCell(SideOf(army), ordinal, slot), unit);
+}
+
+UnitId Field::AddAt(int army, Cell cell, const Unit& unit) {
     const UnitId id = NextRecord(army);
     game.At(id) = unit;
-    PlaceUnit(game, id, SlotCell(SideOf(army), ordinal, slot));
+    if (cell != kNoCell) PlaceUnit(game, id, cell);
     return id;
 }
 

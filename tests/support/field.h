@@ -19,6 +19,7 @@ struct FieldPlan {
     int mapNumber = 4;
     int columns = 3;  // of areas; the grid has one more column of cells, which nobody plays on
     int rows = 1;     // of areas
+    int areaHeight = kFieldAreaHeight;
     std::vector<AreaLink> links;
     std::function<void(Cell, MapCell&)> paint;          // changes a cell before the grid is made
     std::function<void(std::vector<AreaRow>&)> redraw;  // changes the areas; cells stay as they are
@@ -39,6 +40,9 @@ class Field {
 
     // Stands a unit in a slot of its side under the next free record of its army.
     UnitId Add(int army, int ordinal, int slot, const Unit& unit);
+
+    // The same in any cell; kNoCell keeps the unit off the grid.
+    UnitId AddAt(int army, Cell cell, const Unit& unit);
 
     // The next free record of the army, which takes part from now on.
     UnitId NextRecord(int army);

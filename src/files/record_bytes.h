@@ -1,0 +1,124 @@
+// Records to bytes and back, by their field lists: little-endian, without gaps. Numbers beyond a
+// field's width stop at its end.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <span>
+#include <vector>
+
+#include "model/record_fields.h"
+
+namespace varnstride {
+
+// Fills a buffer whose size the caller knows.
+class ByteWriter {
+ public:
+    explicit ByteWriter(std::size_t size) : bytes_(size) {}
+
+    void Bytes(std::span<const std::byte> bytes) {
+        std::copy(bytes.begin(), bytes.end(), bytes_.begin() + static_cast<std::ptrdiff_t>(at_));
+        at_ += bytes.size();
+    }
+    void Number(std::int64_t value, Width width);
+    template <typename Record>
+    void Put(const Record& record);
+
+    // Everything that was written.
+    std::vector<std::byte> Take() {
+        bytes_.resize(at_);
+        return std::move(bytes_);
+    }
+
+ private:
+    std::vector<std::byte> bytes_;
+    std::size_t at_ = 0;
+};
+
+// Reads on from the front. The caller has made sure that enough bytes are left.
+class ByteReader {
+ public:
+    explicit ByteReader(std::span<const std::byte> bytes) : bytes_(bytes) {}
+
+    std::size_t Left() const { return bytes_.size() - at_; }
+    std::span<const std::byte> Bytes(std::size_t count) {
+        at_ += count;
+        return bytes_.subspan(at_ - count, count);
+    }
+    int Number(Width width);
+    template <typename Record>
+    void Get(Record& record);
+
+ private:
+    std::span<const std::byte> bytes_;
+    std::size_t at_ = 0;
+};
+
+template <typename Record>
+struct FieldSizes {
+    std::size_t& sum;
+
+    template <typename Field>
+    constexpr void operator()(const char*, Field Record::*, Width width) {
+        sum += static_cast<std::size_t>(width);
+    }
+    template <typename Item, std::size_t Count>
+    constexpr void operator()(const char*, std::array<Item, Count> Record::*) {
+        sum += Count;
+    }
+};
+
+// Bytes of a record in a file.
+template <typename Record>
+constexpr std::size_t SizeInFile() {
+    std::size_t size = 0;
+    RecordFields<Record>::ForEach(FieldSizes<Record>{size});
+    return size;
+}
+
+template <typename Record>
+struct FieldWriter {
+    ByteWriter& writer;
+    const Record& record;
+
+    template <typename Field>
+    void operator()(const char*, Field Record::*field, Width width) {
+        writer.Number(static_cast<std::int64_t>(record.*field), width);
+    }
+    template <typename Item, std::size_t Count>
+    void operator()(const char*, std::array<Item, Count> Record::*field) {
+        writer.Bytes(std::as_bytes(std::span(record.*field)));
+    }
+};
+
+template <typename Record>
+struct FieldReader {
+    ByteReader& reader;
+    Record& record;
+
+    template <typename Field>
+    void operator()(const char*, Field Record::*field, Width width) {
+        record.*field = static_cast<Field>(reader.Number(width));
+    }
+    template <typename Item, std::size_t Count>
+    void operator()(const char*, std::array<Item, Count> Record::*field) {
+        const auto bytes = reader.Bytes(Count);
+        std::transform(bytes.begin(), bytes.end(), (record.*field).begin(),
+                       [](std::byte byte) { return static_cast<Item>(byte); });
+    }
+};
+
+template <typename Record>
+void ByteWriter::Put(const Record& record) {
+    RecordFields<Record>::ForEach(FieldWriter<Record>{*this, record});
+}
+
+template <typename Record>
+void ByteReader::Get(Record& record) {
+    RecordFields<Record>::ForEach(FieldReader<Record>{*this, record});
+}
+
+}  // namespace varnstride

@@ -1,0 +1,106 @@
+#include "files/safe_write.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+
+namespace varnstride {
+namespace {
+
+class OpenFile {
+ public:
+    explicit OpenFile(int descriptor) : descriptor_(descriptor) {}
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+    ~OpenFile() { Close(); }
+
+    bool IsOpen() const { return descriptor_ >= 0; }
+    int Get() const { return descriptor_; }
+    bool Close() {
+        const int descriptor = descriptor_;
+        descriptor_ = -1;
+        return descriptor < 0 || ::close(descriptor) == 0;
+    }
+
+ private:
+    int descriptor_;
+};
+
+Failure SystemFailure(const std::string& path, const char* what, int reason) {
+    return {path + ": " + what + ": " + std::strerror(reason)};
+}
+
+bool WriteAll(int descriptor, std::span<const std::byte> bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
+        if (written < 0 && errno == EINTR) continue;
+        if (written <= 0) return false;
+        bytes = bytes.subspan(static_cast<std::size_t>(written));
+    }
+    return true;
+}
+
+// The name in the folder must reach the disk as well; a folder that cannot be flushed does no harm.
+void FlushFolderOf(const std::string& path) {
+    const auto folder = std::filesystem::path(path).parent_path();
+    const OpenFile opened(::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY));
+    if (opened.IsOpen()) ::fsync(opened.Get());
+}
+
+// A new file keeps the rights that any new file of the player would get.
+mode_t UsualRights() {
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    return 0666 & ~mask;
+}
+
+}  // namespace
+
+Result<std::vector<std::byte>> ReadWholeFile(const std::string& path) {
+    OpenFile file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    if (!file.IsOpen()) return SystemFailure(path, "cannot be opened", errno);
+    struct stat status {};
+    if (::fstat(file.Get(), &status) != 0) return SystemFailure(path, "cannot be read", errno);
+    if (!S_ISREG(status.st_mode)) return Failure{path + ": cannot be read: it is not a file"};
+    constexpr off_t kFarTooLarge = 64 << 20;
+    if (status.st_size > kFarTooLarge) {
+        return Failure{path + ": is far too large for a battle"};
+    }
+    std::vector<std::byte> bytes(static_cast<std::size_t>(status.st_size));
+    std::size_t filled = 0;
+    while (filled < bytes.size()) {
+        const ssize_t got = ::read(file.Get(), bytes.data() + filled, bytes.size() - filled);
+        if (got < 0 && errno == EINTR) continue;
+        if (got < 0) return SystemFailure(path, "cannot be read", errno);
+        if (got == 0) break;
+        filled += static_cast<std::size_t>(got);
+    }
+    bytes.resize(filled);
+    return bytes;
+}
+
+Result<Done> WriteSafely(const std::string& path, std::span<const std::byte> bytes) {
+    if (std::filesystem::is_directory(path)) {
+        return Failure{path + ": cannot be written: it is a folder"};
+    }
+    std::string beside = path + ".XXXXXX";
+    OpenFile file(::mkstemp(beside.data()));
+    if (!file.IsOpen()) return SystemFailure(path, "cannot be written", errno);
+    const bool written = WriteAll(file.Get(), bytes) && ::fchmod(file.Get(), UsualRights()) == 0 &&
+                         ::fsync(file.Get()) == 0 && file.Close() &&
+                         ::rename(beside.c_str(), path.c_str()) == 0;
+    if (!written) {
+        const int reason = errno;
+        ::unlink(beside.c_str());
+        return SystemFailure(path, "cannot be written", reason);
+    }
+    FlushFolderOf(path);
+    return Done{};
+}
+
+}  // namespace varnstride
