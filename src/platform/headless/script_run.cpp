@@ -33,8 +33,10 @@ Result<Done> CheckFiles(const Script& script, const AtlasCatalogue& atlases) {
 
 class ScriptRun {
  public:
-    ScriptRun(const AtlasCatalogue& atlases, std::ostream& out)
-        : events_(out), person_(events_), game_(FreshGame(atlases, person_, HeadlessSettings())) {}
+    ScriptRun(const AtlasCatalogue& atlases, BattleEvents& events)
+        : events_(events),
+          person_(events_),
+          game_(FreshGame(atlases, person_, HeadlessSettings())) {}
 
     // Plays to the end of the script, or of the program.
     void Play(const Script& script) {
@@ -43,6 +45,7 @@ class ScriptRun {
             person_.BeginStep();
             std::visit([this](const auto& action) { Do(action); }, command.action);
             NoteOpenedBattle();
+            events_.StepDone(game_);
             if (HasQuit()) break;
         }
         events_.End(EndReason());
@@ -78,7 +81,7 @@ class ScriptRun {
     bool HasQuit() const { return quit_ || game_.state.programEnded; }
     std::string EndReason() const;
 
-    EventWriter events_;
+    BattleEvents& events_;
     ScriptedPerson person_;
     Game game_;
     bool byMail_ = false;
@@ -124,6 +127,7 @@ void ScriptRun::Pass() {
     person_.BeginStep();
     RunGamePass(game_);
     NoteOpenedBattle();
+    events_.StepDone(game_);
 }
 
 // Cells are told by what has changed in them since their battle was opened, whichever way it was.
@@ -131,6 +135,7 @@ void ScriptRun::NoteOpenedBattle() {
     if (filesNoted_ == person_.filesOpened) return;
     filesNoted_ = person_.filesOpened;
     cellsAtLoad_ = WholeCells(game_.grid);
+    events_.Opened(game_);
 }
 
 std::string ScriptRun::EndReason() const {
@@ -140,7 +145,7 @@ std::string ScriptRun::EndReason() const {
 
 }  // namespace
 
-Result<Done> RunScript(const Script& script, const AtlasCatalogue& atlases, std::ostream& events) {
+Result<Done> RunScript(const Script& script, const AtlasCatalogue& atlases, BattleEvents& events) {
     const Result<Done> files = CheckFiles(script, atlases);
     if (!files.Ok()) return files;
     ScriptRun run(atlases, events);

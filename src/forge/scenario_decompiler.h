@@ -1,0 +1,18 @@
+// Scenario files turned back into sources: as much as can be drawn and told in tables, and what is
+// left, word by word, under [cells] and [fields].
+#pragma once
+
+#include <string>
+
+#include "forge/scenario_build.h"
+#include "model/result.h"
+
+namespace varnstride {
+
+// A source that gives the file back to the last byte. The file has been read and found sound, in
+// the present layout or the older one; the source is of the present. With loose rules the source
+// asks for nothing beyond that.
+std::string DecompileScenario(const BattleFile& file, const AtlasCatalogue& atlases,
+                              ScenarioRules rules);
+
+}  // namespace varnstride
