@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "files/battle_checks.h"
 #include "forge/scenario_values.h"
 #include "forge/scenario_words.h"
 #include "model/grid.h"
@@ -30,25 +31,34 @@ class UnitChecks {
     }
 
     void Check(UnitId id, const Unit& unit) {
-        const int line = build_.LineOf(id);
-        if (build_.rules == ScenarioRules::Strict) CheckAsWritten(id, unit, line);
+        const UnitLine* const written = build_.FindLine(id);
+        if (written != nullptr && !written->isSound) return;
+        const int line = written != nullptr ? written->line : 0;
+        const bool strict = build_.rules == ScenarioRules::Strict && written != nullptr;
+        if (strict) CheckAsWritten(id, unit, line);
+        if (const auto fault = FindFaultOf(unit); fault && !(strict && LacksColumns(unit))) {
+            build_.errors.Add(line, NameOf(unit) + ": " + *fault);
+        }
         if (unit.strength <= 0 || slots_.empty()) return;
         if (StandsAtStart(build_.file, unit)) {
             CheckSlot(id, unit, line);
-        } else if (build_.rules == ScenarioRules::Strict && grid_.AreaOf(unit.Place()) == 0) {
+        } else if (strict && grid_.AreaOf(unit.Place()) == 0) {
             build_.errors.Add(line, NameOf(unit) + " arrives at " + SourceCell(unit.Place()) +
                                         ", which lies in no area: expected a cell of one");
         }
     }
 
  private:
+    static bool LacksColumns(const Unit& unit) {
+        return unit.type == UnitType::None || unit.quality == Quality::None || unit.maxMorale == 0;
+    }
+
     void CheckAsWritten(UnitId id, const Unit& unit, int line) const {
         const auto need = [&](bool given, const std::string& column) {
             if (given) return;
             build_.errors.Add(line,
                               NameOf(unit) + ": expected a value in the column \"" + column + "\"");
         };
-        if (line == 0) return;
         need(unit.name[0] != '\0', "name");
         need(unit.type != UnitType::None, "type");
         need(unit.strength > 0, "strength");
@@ -75,8 +85,13 @@ class UnitChecks {
         if (isFree) return;
         build_.errors.Add(line, NameOf(unit) + " stands at " + SourceCell(unit.Place()) +
                                     " where the unit of line " +
-                                    std::to_string(build_.LineOf(holder->second)) +
+                                    std::to_string(LineOf(holder->second)) +
                                     " stands: expected an empty slot");
+    }
+
+    int LineOf(UnitId id) const {
+        const UnitLine* const written = build_.FindLine(id);
+        return written != nullptr ? written->line : 0;
     }
 
     static std::string SideName(Side side) { return side == Side::French ? "French" : "Allied"; }

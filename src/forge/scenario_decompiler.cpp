@@ -25,24 +25,29 @@ std::string OverrideText(const Overrides& overrides) {
     return text;
 }
 
-}  // namespace
-
 // An override can change what is worked out from it, an area number the borders around it, so the
 // source is compiled and completed until nothing is left to say. What is said once stays, so that
 // this comes to an end.
-std::string DecompileScenario(const BattleFile& file, const AtlasCatalogue& atlases,
-                              ScenarioRules rules) {
+std::string Decompiled(const BattleFile& file, const AtlasCatalogue& atlases, ScenarioRules rules) {
     const std::string plain = SourceWithoutOverrides(file, rules);
     Overrides said;
     for (;;) {
         const std::string text = plain + OverrideText(said);
-        SourceErrors ignored("");
-        const BattleFile have = AssembleScenario(text, atlases, ignored).file;
-        const Overrides left = OverridesBetween(have, file);
+        const Overrides left = OverridesBetween(AssembleScenario(text, atlases), file);
         if (left.AreEmpty()) return text;
         said.cells += left.cells;
         said.fields += left.fields;
     }
+}
+
+}  // namespace
+
+std::string DecompileScenario(const BattleFile& file, const AtlasCatalogue& atlases) {
+    const std::string strict = Decompiled(file, atlases, ScenarioRules::Strict);
+    SourceErrors breaches("");
+    std::vector<std::string> warnings;
+    if (CompileScenario(strict, atlases, breaches, warnings)) return strict;
+    return Decompiled(file, atlases, ScenarioRules::Loose);
 }
 
 }  // namespace varnstride
