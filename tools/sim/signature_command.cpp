@@ -1,5 +1,5 @@
-// varnstride-sim signature: plays a fixed set of battles, orders and answers drawn from fixed seeds,
-// and boils all their positions down to one number. It changes when any rule does.
+// varnstride-sim signature: plays a fixed set of battles, orders and answers drawn from fixed
+// seeds, and boils all their positions down to one number. It changes when any rule does.
 #include <algorithm>
 #include <iomanip>
 #include <iostream>
