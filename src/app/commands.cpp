@@ -3,11 +3,14 @@
 #include <algorithm>
 #include <array>
 
+#include "app/care_orders.h"
 #include "app/display_options.h"
 #include "app/file_menu.h"
+#include "app/formation_dialog.h"
 #include "app/map_input.h"
 #include "app/status_dialogs.h"
 #include "app/turn_menu.h"
+#include "app/unit_groups.h"
 #include "app/unit_orders.h"
 #include "flow/battle_options.h"
 #include "flow/command_report.h"
@@ -45,6 +48,13 @@ constexpr auto kCommands = std::to_array<Command>({
     {33002, PrepareBayonetCharge},
     {32778, DoubleTime},
     {33001, HoldUnit},
+    {33003, Resupply},
+    {32774, RotateUnits},
+    {32781, LeaveMap},
+    {32921, DetachFormation},
+    {32997, RejoinDetachment},
+    {32930, RallyAndReform},
+    {32979, ChangeFormationByCommand},
     {33008, CancelAction},
     // Status
     {32970, ShowCommandReport},
@@ -107,6 +117,7 @@ constexpr auto kKeys = std::to_array<KeyStroke>({
     {Key::C, ToggleSetting<&Settings::armyColours>},
     {Key::D, ToggleCommandRange},
     {Key::E, CancelEventCardByKey},
+    {Key::F, ChangeFormationByKey},
     {Key::I, ToggleUnitPanels},
     {Key::J, ToggleMiniMapByKey},
     {Key::L, ToggleMapFilter<&GameState::highlightLeaders>},

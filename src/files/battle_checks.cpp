@@ -24,15 +24,19 @@ struct FieldRange {
 };
 
 template <typename Record>
-Fault FindFieldFault(const Record& record, const std::vector<FieldRange<Record>>& ranges,
-                     const std::string& block) {
+Fault FindFieldFault(const Record& record, const std::vector<FieldRange<Record>>& ranges) {
     for (const FieldRange<Record>& range : ranges) {
         const int value = range.value(record);
         if (value < range.low || value > range.high) {
-            return OutOfRange(block + ": " + range.name, value, range.low, range.high);
+            return OutOfRange(range.name, value, range.low, range.high);
         }
     }
     return std::nullopt;
+}
+
+// The fault with the place where it was found before it.
+Fault In(const std::string& place, const Fault& fault) {
+    return fault ? Fault(place + ": " + *fault) : fault;
 }
 
 template <std::size_t Count>
@@ -137,9 +141,9 @@ Fault FindCellFault(const BattleFile& file, const AtlasCatalogue&) {
     for (std::size_t index = 0; index < file.cells.size(); ++index) {
         const auto width = static_cast<std::size_t>(file.mapWidth);
         const Cell cell{static_cast<int>(index % width), static_cast<int>(index / width)};
-        const Fault fault =
-            FindFieldFault(file.cells[index], CellRanges(), "map: cell " + CellText(cell));
-        if (fault) return fault;
+        if (const Fault fault = FindFaultOf(file.cells[index])) {
+            return In("map: cell " + CellText(cell), fault);
+        }
     }
     return std::nullopt;
 }
@@ -170,8 +174,8 @@ Fault FindTextFault(const BattleFile& file, const AtlasCatalogue&) {
 }
 
 Fault FindHeaderFault(const BattleFile& file, const AtlasCatalogue&) {
-    if (auto fault = FindFieldFault(file.header, HeaderRanges(), "header")) return fault;
-    return FindFieldFault(file.time, TimeRanges(), "time");
+    if (auto fault = FindFieldFault(file.header, HeaderRanges())) return In("header", fault);
+    return In("time", FindFieldFault(file.time, TimeRanges()));
 }
 
 Fault FindArmyFault(const BattleFile& file, const AtlasCatalogue&) {
@@ -216,17 +220,8 @@ bool IsUsed(const Unit& unit) {
 
 Fault FindUnitFault(const BattleFile& file, const AtlasCatalogue&) {
     return FindInUnits(file, [](UnitId id, const Unit& unit) -> Fault {
-        if (!EndsInside(unit.name)) return "name has no end";
-        if (!IsUsed(unit)) return std::nullopt;
-        if (id.index == 0) return "record 0 must stay empty";
-        for (const FieldRange<Unit>& range : UnitRanges()) {
-            const int value = range.value(unit);
-            if (value < range.low || value > range.high) {
-                return OutOfRange(range.name, value, range.low, range.high);
-            }
-        }
-        if (unit.strength > 0 && unit.maxMorale == 0) return "maxMorale is 0";
-        return std::nullopt;
+        if (id.index == 0 && IsUsed(unit)) return "record 0 must stay empty";
+        return FindFaultOf(unit);
     });
 }
 
@@ -317,6 +312,18 @@ Fault FindPlaceFault(const BattleFile& file, const AtlasCatalogue& atlases) {
 }
 
 }  // namespace
+
+Fault FindFaultOf(const MapCell& cell) {
+    return FindFieldFault(cell, CellRanges());
+}
+
+Fault FindFaultOf(const Unit& unit) {
+    if (!EndsInside(unit.name)) return "name has no end";
+    if (!IsUsed(unit)) return std::nullopt;
+    if (const Fault fault = FindFieldFault(unit, UnitRanges())) return fault;
+    if (unit.strength > 0 && unit.maxMorale == 0) return "maxMorale is 0";
+    return std::nullopt;
+}
 
 Fault FindFault(const BattleFile& file, const AtlasCatalogue& atlases) {
     using Check = Fault (*)(const BattleFile&, const AtlasCatalogue&);

@@ -9,6 +9,7 @@
 #include "battle/weather.h"
 #include "flow/background_sound.h"
 #include "flow/game_end.h"
+#include "flow/turn_effects.h"
 #include "flow/turn_order.h"
 #include "flow/two_players.h"
 #include "model/score.h"
@@ -53,18 +54,18 @@ void ClearOrders(Game& game) {
     game.person->Redraw(View::Toolbar);
 }
 
-// The turn change proper: weather by the hour just played, recovery, then the clock.
-void ChangeGameTurn(Game& game, bool logged) {
+// The weather of the hour just played, and what is heard of it.
+void ChangeWeather(Game& game) {
     AdvanceWeather(game);
     if (game.settings.backgroundSound == 1) StartAmbient(game);
-    RunEndTurnMoraleOf(game, logged);
-    StartNewGameTurn(game);
 }
 
 void ChangeSideInLocalPlay(Game& game) {
     game.state.turnPhase = TurnPhase::BeginSide;
     if (!CircleHasClosed(game)) return;
-    ChangeGameTurn(game, false);
+    ChangeWeather(game);
+    RunEndTurnMoraleOf(game, false);
+    StartNewGameTurn(game);
     game.state.frenchMorale = 0;
     RecomputeMorale(game, ArmiesCounted::Present);
     if (game.state.gameTurn > game.header.lastTurn) TestForEnd(game);
@@ -88,20 +89,11 @@ void ShowEndedBattle(Game& game) {
     OpenMapForGood(game);
 }
 
-void RestoreWeatherCard(Game& game) {
-    constexpr int kFirstCode = 2;
-    constexpr int kLastCode = 5;
-    const int code = game.options.weatherCardCode;
-    if (code == 1) game.state.strikeDrawCard = 1;
-    if (code >= kFirstCode && code <= kLastCode) {
-        game.state.eventCard = kFirstWeatherCard + code - kFirstCode;
-    }
-}
-
 void ReplayBattles(Game& game) {
     game.header.passMode = kReplay;
     game.state.rollCursor = 0;
     RestoreWeatherCard(game);
+    ReplayEffects(game);
     RunBattlePass(game);
 }
 
@@ -142,8 +134,13 @@ void ResumeMailedTurn(Game& game) {
     if (!restores) ReplayBattles(game);
     PassTurnOn(game);
     if (restores) RestoreAfterPass(game);
-    if (game.turnLog.turnInProgress == 0 && CircleHasClosed(game)) {
-        ChangeGameTurn(game, true);
+    const bool newGameTurn = game.turnLog.turnInProgress == 0 && CircleHasClosed(game);
+    // The sender recovered before the weather changed; what was restored has recovered already.
+    if (newGameTurn && !restores) RunEndTurnMoraleOf(game, true);
+    ClearCardEffects(game);
+    if (newGameTurn) {
+        ChangeWeather(game);
+        StartNewGameTurn(game);
         RecomputeMorale(game, ArmiesCounted::Present);
     }
     ClearLog(game);

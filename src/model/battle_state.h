@@ -33,6 +33,21 @@ struct BattleState {
     int combinedLeadership = 0;
     int requiredLeadership = 0;
 
+    // The forces of the area that is fought over.
+    int primaryFound = 0;
+    int enemyLightHere = 0;  // light infantry
+    int enemyLineHere = 0;   // any other foot
+    int enemyCavalryHere = 0;
+    int enemyGunsHere = 0;
+    int enemySquares = 0;
+    int enemyRouted = 0;
+    int enemyShaken = 0;
+    int ownLight = 0;
+    int ownLine = 0;
+    int ownCavalry = 0;
+    int ownGuns = 0;
+    int noTactics = 0;
+
     // The strikes and what they did.
     int attackStrike = 0;
     int defenceStrike = 0;

@@ -37,9 +37,9 @@ class Inspection {
         if (!holds) broken.push_back(message);
     }
     void ExpectWithin(const std::string& name, int value, int least, int most) {
-        Expect(value >= least && value <= most,
-               name + " " + std::to_string(value) + " is not within " + std::to_string(least) +
-                   " to " + std::to_string(most));
+        Expect(value >= least && value <= most, name + " " + std::to_string(value) +
+                                                    " is not within " + std::to_string(least) +
+                                                    " to " + std::to_string(most));
     }
     void InspectNumbers(UnitId id, const Unit& unit);
     void InspectDead(UnitId id, const Unit& unit);

@@ -174,7 +174,18 @@ struct RecordFields<Unit> {
     }
 };
 
-// The roll log is written by the file code itself, as one run of numbers.
+// The roll log, which stands before the reserved word, is one run of numbers that whoever reads or
+// writes the block handles itself.
+template <>
+struct RecordFields<TurnLogBlock> {
+    template <typename Visit>
+    static constexpr void ForEach(Visit visit) {
+        visit("turnInProgress", &TurnLogBlock::turnInProgress, Width::Int16);
+        visit("advanceDirection", &TurnLogBlock::advanceDirection, Width::Int16);
+        visit("reserved", &TurnLogBlock::reserved, Width::Int16);
+    }
+};
+
 template <>
 struct RecordFields<OptionBlock> {
     template <typename Visit>

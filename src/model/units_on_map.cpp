@@ -58,6 +58,13 @@ void DestroyUnit(Game& game, UnitId id) {
     game.At(id).SetPlace(kNoCell);
 }
 
+void FreeRecord(Game& game, UnitId id) {
+    Unstand(game, id);
+    Unit& unit = game.At(id);
+    unit.strength = unit.initialStrength = 0;
+    unit.SetPlace(kNoCell);
+}
+
 void LeadOffMap(Game& game, UnitId id) {
     Unstand(game, id);
     game.At(id).arrivalTurn = kLeftByExit;

@@ -36,6 +36,9 @@ void StrikeDownUnit(Game& game, UnitId id);
 // to the caller, who may have cleared it before.
 void DestroyUnit(Game& game, UnitId id);
 
+// Gives the record of a unit that another has taken in back for new ones.
+void FreeRecord(Game& game, UnitId id);
+
 // Leads a unit off by an exit: it keeps its strength and the cell that it left from.
 void LeadOffMap(Game& game, UnitId id);
 

@@ -15,10 +15,25 @@ constexpr int kOptions = 320;
 constexpr int kScenarioInformation = 324;
 constexpr int kRoutedUnitReport = 338;
 constexpr int kSurrenderedUnitReport = 341;
+constexpr int kFormationChange = 342;
+constexpr int kDetachFormation = 364;
 constexpr int kSpeedOfAction = 396;
 constexpr int kStartScreen = 398;
 constexpr int kEndGameStatus = 427;
 constexpr int kScenarioSettings = 452;
+constexpr int kAllArmsTactics = 541;
+constexpr int kLightTactics = 566;
+constexpr int kCavalryTactics = 567;
+constexpr int kLineTactics = 568;
+constexpr int kLineCavalryTactics = 569;
+constexpr int kLightGunsTactics = 570;
+constexpr int kLineGunsTactics = 571;
+constexpr int kCavalryGunsTactics = 572;
+constexpr int kLightCavalryTactics = 574;
+constexpr int kRotateUnits = 614;
 constexpr int kCardReminder = 643;
+constexpr int kLineCavalryLightTactics = 1810;
+constexpr int kLineGunsLightTactics = 1811;
+constexpr int kCavalryGunsLightTactics = 1812;
 
 }  // namespace varnstride

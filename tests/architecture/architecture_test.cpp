@@ -25,6 +25,7 @@ TEST(IncludeWalk, TellsWhoUsesAFloorAboveHisOwn) {
         MakeSourceFile("model/score.cpp", "// a comment\n  #  include \"battle/strike.h\"\n"),
         MakeSourceFile("files/battle_file.cpp", "#include \"resources/texts.h\"\n"),
         MakeSourceFile("opponent/turn.cpp", "#include \"battle/strike.h\"\n"),
+        MakeSourceFile("forge/made.cpp", "text = R\"(\n#include \"app/a.h\"\n)\";\n"),
         MakeSourceFile("attic/old.cpp", ""),
     };
     EXPECT_EQ(FindWrongFloors(files),

@@ -23,6 +23,7 @@ const std::vector<Floor>& Floors() {
         {"resources", {}},
         {"model", {"resources"}},
         {"files", {"model"}},
+        {"atlases", {"model"}},
         {"actions", {"model", "resources"}},
         {"battle", {"model", "resources", "actions"}},
         {"opponent", {"model", "resources", "actions", "battle"}},
@@ -99,11 +100,19 @@ class CircleSearch {
     std::vector<std::string> circles_;
 };
 
+// A text in a raw string may be a source of its own, which is none of ours.
+std::string WithoutRawStrings(std::string text) {
+    for (std::size_t first = 0; (first = text.find("R\"(", first)) != std::string::npos;) {
+        text.erase(first, text.find(")\"", first) - first);
+    }
+    return text;
+}
+
 }  // namespace
 
 SourceFile MakeSourceFile(std::string path, std::string text) {
     static const std::regex include(R"re((?:^|\n)[ \t]*#[ \t]*include[ \t]*"([^"]+)")re");
-    SourceFile file{std::move(path), {}, std::move(text)};
+    SourceFile file{std::move(path), {}, WithoutRawStrings(std::move(text))};
     for (std::sregex_iterator found(file.text.begin(), file.text.end(), include), none;
          found != none; ++found) {
         file.includes.push_back((*found)[1].str());

@@ -19,7 +19,8 @@ Json BoundAsJson(const std::optional<int>& bound) {
 
 Json SlotsAsJson(const std::array<Cell, kSlotsPerSide>& slots) {
     Json list = Json::array();
-    for (Cell slot : slots) list.push_back({slot.x, slot.y});
+    for (Cell slot : slots)
+        list.push_back({slot.x, slot.y});
     return list;
 }
 
@@ -72,7 +73,8 @@ Json AtlasAsJson(const Atlas& atlas) {
         return std::tie(one.from, one.to) < std::tie(other.from, other.to);
     });
     Json list = Json::array();
-    for (const AreaLink& link : links) list.push_back(LinkAsJson(link));
+    for (const AreaLink& link : links)
+        list.push_back(LinkAsJson(link));
     return {{"map", atlas.MapNumber()}, {"rows", rows}, {"links", list}};
 }
 

@@ -20,8 +20,9 @@ int Explain(const CLI::App& app, const CLI::ParseError& error) {
 
 int main(int argumentCount, char** arguments) {
     std::ios::sync_with_stdio(false);
-    CLI::App app{"Plays Varnstride without a screen: the same rules, files, commands and clicks as "
-                 "in the window, with every dialog answered from a script."};
+    CLI::App app{
+        "Plays Varnstride without a screen: the same rules, files, commands and clicks as "
+        "in the window, with every dialog answered from a script."};
     app.require_subcommand(1);
     app.footer("Exit status: 0 done; 2 a script, a file or an argument is wrong.");
     AddRun(app);

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "atlases/built_in.h"
+#include "platform/headless/event_writer.h"
 #include "platform/headless/script_run.h"
 #include "sim/subcommands.h"
 
@@ -48,7 +49,8 @@ void Run(const std::string& path) {
     const Result<Script> script =
         ParseScript(ReadScript(path), path.empty() ? "standard input" : path);
     if (!script.Ok()) throw Refusal(script.Message());
-    const Result<Done> played = RunScript(script.Get(), BuiltInAtlases(), std::cout);
+    EventWriter events(std::cout);
+    const Result<Done> played = RunScript(script.Get(), BuiltInAtlases(), events);
     std::cout.flush();
     if (!played.Ok()) throw Refusal(played.Message());
     if (!std::cout) throw Refusal("the events cannot be written");

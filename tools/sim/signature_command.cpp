@@ -1,5 +1,5 @@
-// varnstride-sim signature: plays a fixed set of battles, orders and answers drawn from fixed seeds,
-// and boils all their positions down to one number. It changes when any rule does.
+// varnstride-sim signature: plays a fixed set of battles, orders and answers drawn from fixed
+// seeds, and boils all their positions down to one number. It changes when any rule does.
 #include <algorithm>
 #include <iomanip>
 #include <iostream>
@@ -20,13 +20,17 @@ constexpr unsigned kFirstSeed = 1815;
 constexpr unsigned kGames = 3;  // of each scenario
 constexpr int kSteps = 600;     // inputs and passes of a game
 
-// The scenarios beside the program, or those of an installed game.
+// The scenarios of an installed game, beside the program, or in the data folder of its build.
 fs::path ScenarioFolder(const fs::path& program) {
     std::error_code error;
     const fs::path self = fs::read_symlink("/proc/self/exe", error);
     const fs::path folder = (error ? fs::absolute(program) : self).parent_path();
-    const fs::path installed = folder.parent_path() / "share" / "varnstride" / "Scenarios";
-    return fs::is_directory(installed, error) ? installed : folder / "Scenarios";
+    const fs::path beside = folder / "Scenarios";
+    for (const fs::path& found : {folder.parent_path() / "share" / "varnstride" / "Scenarios",
+                                  folder.parent_path() / "data" / "Scenarios"}) {
+        if (fs::is_directory(found, error)) return found;
+    }
+    return beside;
 }
 
 std::vector<fs::path> ScenariosOf(const fs::path& folder) {

@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 
 #include "varnstride-forge/atlas_command.h"
+#include "varnstride-forge/scenario_command.h"
 
 int main(int argc, char** argv) {
     constexpr int kUsageMistake = 1;
@@ -10,6 +11,7 @@ int main(int argc, char** argv) {
     app.require_subcommand(1);
     int exitCode = 0;
     varnstride::AddAtlasCommand(app, exitCode);
+    varnstride::AddScenarioCommand(app, exitCode);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

@@ -22,7 +22,8 @@ struct Performer {
     void operator()(const ClickPanel& click) { OnPanelClick(game, click.panel); }
     void operator()(const PressCard& press) { OnCardStripPress(game, press.card); }
     void operator()(const TickClock& clock) {
-        for (int second = 0; second < clock.seconds; ++second) StopClockTick(game);
+        for (int second = 0; second < clock.seconds; ++second)
+            StopClockTick(game);
     }
 };
 

@@ -1,5 +1,5 @@
-// What a person can do to a battle in hand, carried out: the commands, keys and clicks that a script
-// names and a random player thinks up.
+// What a person can do to a battle in hand, carried out: the commands, keys and clicks that a
+// script names and a random player thinks up.
 #pragma once
 
 #include <variant>
@@ -9,8 +9,7 @@
 
 namespace varnstride {
 
-using BattleInput =
-    std::variant<GiveCommand, PressKey, ClickMap, ClickPanel, PressCard, TickClock>;
+using BattleInput = std::variant<GiveCommand, PressKey, ClickMap, ClickPanel, PressCard, TickClock>;
 
 // A battle must be open.
 void Perform(Game& game, const BattleInput& input);

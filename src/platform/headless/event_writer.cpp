@@ -19,7 +19,8 @@ void Write(std::ostream& out, const Json& event) {
 
 Json Texts(const std::vector<std::string>& lines) {
     Json texts = Json::array();
-    for (const std::string& line : lines) texts.push_back(ToUtf8(line));
+    for (const std::string& line : lines)
+        texts.push_back(ToUtf8(line));
     return texts;
 }
 

@@ -7,27 +7,25 @@
 #include <string>
 #include <vector>
 
-#include "model/attack_report.h"
-#include "model/dialog.h"
-#include "model/game.h"
+#include "platform/headless/battle_events.h"
 
 namespace varnstride {
 
-class EventWriter {
+class EventWriter : public BattleEvents {
  public:
     explicit EventWriter(std::ostream& out) : out_(out) {}
 
-    void Phase(const Game& game);
-    void Courier(const CourierMessage& message);
-    void Box(const MessageBox& box, int answer);
-    void Asked(const Dialog& dialog);
-    void Result(const AttackReport& report);
-    void Die(int sides, int value, bool logged);
-    void Sounded(Sound sound);
-    void Saved(const std::string& file, std::size_t bytes);
+    void Phase(const Game& game) override;
+    void Courier(const CourierMessage& message) override;
+    void Box(const MessageBox& box, int answer) override;
+    void Asked(const Dialog& dialog) override;
+    void Result(const AttackReport& report) override;
+    void Die(int sides, int value, bool logged) override;
+    void Sounded(Sound sound) override;
+    void Saved(const std::string& file, std::size_t bytes) override;
     // Cells are told by what differs from `atLoad`, the cells by rows as the load left them.
-    void State(const Game& game, const std::vector<MapCell>& atLoad);
-    void End(const std::string& reason);
+    void State(const Game& game, const std::vector<MapCell>& atLoad) override;
+    void End(const std::string& reason) override;
 
  private:
     std::ostream& out_;

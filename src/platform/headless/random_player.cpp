@@ -14,11 +14,11 @@ constexpr int kEndOfTurn = 32858;
 
 // Everything in the menus but opening, saving, leaving and the manuals.
 constexpr std::array kCommands = {
-    33000, 33005, 32978, 33006, 33011, 33013, 33003, 32875, 33002, 32778, 32774, 33001, 32781,
-    32921, 32997, 33020, 32784, 32930, 32979, 33008, 32790, 32791, 32792, 32793, 32962, 32970,
-    32974, 32794, 32795, 32960, 32890, 32897, 32995, 32947, 32796, 32935, 32955, 32986, 32969,
-    32797, 32798, 32800, 32943, 32809, 32861, 32808, 32903, 32990, 32868, 32941, 32805, 32877,
-    32879, 32991, 32834, 32878, 32904, 32799, 32831, 32830,
+    33000, 33005, 32978, 33006, 33011, 33013, 33003, 32875, 33002, 32778, 32774, 33001,
+    32781, 32921, 32997, 33020, 32784, 32930, 32979, 33008, 32790, 32791, 32792, 32793,
+    32962, 32970, 32974, 32794, 32795, 32960, 32890, 32897, 32995, 32947, 32796, 32935,
+    32955, 32986, 32969, 32797, 32798, 32800, 32943, 32809, 32861, 32808, 32903, 32990,
+    32868, 32941, 32805, 32877, 32879, 32991, 32834, 32878, 32904, 32799, 32831, 32830,
 };
 // Those that order something; asked for as often as all the others together.
 constexpr std::size_t kOrders = 20;
@@ -42,7 +42,8 @@ RandomPlayer::RandomPlayer(const AtlasCatalogue& atlases, unsigned seed)
     : dice_(seed),
       person_(dice_, seed),
       game_(FreshGame(atlases, person_, HeadlessSettings())),
-      script_{"time " + std::to_string(seed)} {}
+      script_{"time " + std::to_string(seed)} {
+}
 
 Result<Done> RandomPlayer::OpenScenario(const std::string& path) {
     person_.fileToOpen = path;
@@ -69,13 +70,15 @@ bool RandomPlayer::IsOver() const {
 
 std::string RandomPlayer::Script() const {
     std::string text;
-    for (const std::string& line : script_) text += line + "\n";
+    for (const std::string& line : script_)
+        text += line + "\n";
     return text;
 }
 
 // A script queues its answers before the command that asks for them.
 void RandomPlayer::Note(const std::string& line) {
-    for (const std::string& answer : person_.answers) script_.push_back(answer);
+    for (const std::string& answer : person_.answers)
+        script_.push_back(answer);
     person_.answers.clear();
     script_.push_back(line);
 }

@@ -5,8 +5,8 @@
 #include <limits>
 #include <span>
 
-#include "platform/headless/settable_fields.h"
 #include "platform/headless/script_words.h"
+#include "platform/headless/settable_fields.h"
 
 namespace varnstride {
 namespace {
@@ -22,7 +22,7 @@ struct KeyName {
 };
 
 constexpr std::array kNamedKeys = {
-    KeyName{"1", Key::One},  KeyName{"2", Key::Two},     KeyName{"3", Key::Three},
+    KeyName{"1", Key::One},   KeyName{"2", Key::Two},       KeyName{"3", Key::Three},
     KeyName{"Tab", Key::Tab}, KeyName{"Shift", Key::Shift}, KeyName{"F1", Key::F1},
     KeyName{"F2", Key::F2},
 };
@@ -40,9 +40,9 @@ std::string Quoted(const std::string& word) {
 }
 
 Failure NoNumber(const std::string& word, int least, int most) {
-    const std::string range =
-        most == kMost ? std::to_string(least) + " or more"
-                      : "from " + std::to_string(least) + " to " + std::to_string(most);
+    const std::string range = most == kMost
+                                  ? std::to_string(least) + " or more"
+                                  : "from " + std::to_string(least) + " to " + std::to_string(most);
     return {Quoted(word) + " is no whole number " + range};
 }
 
@@ -256,7 +256,8 @@ std::string NameOf(Key key) {
     for (const KeyName& named : kNamedKeys) {
         if (named.key == key) return std::string(named.name);
     }
-    return std::string(1, static_cast<char>('A' + (static_cast<int>(key) - static_cast<int>(Key::A))));
+    return std::string(1,
+                       static_cast<char>('A' + (static_cast<int>(key) - static_cast<int>(Key::A))));
 }
 
 }  // namespace varnstride

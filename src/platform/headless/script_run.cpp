@@ -33,8 +33,8 @@ Result<Done> CheckFiles(const Script& script, const AtlasCatalogue& atlases) {
 
 class ScriptRun {
  public:
-    ScriptRun(const AtlasCatalogue& atlases, std::ostream& out)
-        : events_(out),
+    ScriptRun(const AtlasCatalogue& atlases, BattleEvents& events)
+        : events_(events),
           person_(events_),
           game_(FreshGame(atlases, person_, HeadlessSettings())) {}
 
@@ -45,6 +45,7 @@ class ScriptRun {
             person_.BeginStep();
             std::visit([this](const auto& action) { Do(action); }, command.action);
             NoteOpenedBattle();
+            events_.StepDone(game_);
             if (HasQuit()) break;
         }
         events_.End(EndReason());
@@ -72,14 +73,15 @@ class ScriptRun {
     }
 
     void NeedBattle() const {
-        if (game_.atlas == nullptr) throw ScriptError(line, "no battle is open; expected: new FILE");
+        if (game_.atlas == nullptr)
+            throw ScriptError(line, "no battle is open; expected: new FILE");
     }
     void Pass();
     void NoteOpenedBattle();
     bool HasQuit() const { return quit_ || game_.state.programEnded; }
     std::string EndReason() const;
 
-    EventWriter events_;
+    BattleEvents& events_;
     ScriptedPerson person_;
     Game game_;
     bool byMail_ = false;
@@ -125,6 +127,7 @@ void ScriptRun::Pass() {
     person_.BeginStep();
     RunGamePass(game_);
     NoteOpenedBattle();
+    events_.StepDone(game_);
 }
 
 // Cells are told by what has changed in them since their battle was opened, whichever way it was.
@@ -132,6 +135,7 @@ void ScriptRun::NoteOpenedBattle() {
     if (filesNoted_ == person_.filesOpened) return;
     filesNoted_ = person_.filesOpened;
     cellsAtLoad_ = WholeCells(game_.grid);
+    events_.Opened(game_);
 }
 
 std::string ScriptRun::EndReason() const {
@@ -141,7 +145,7 @@ std::string ScriptRun::EndReason() const {
 
 }  // namespace
 
-Result<Done> RunScript(const Script& script, const AtlasCatalogue& atlases, std::ostream& events) {
+Result<Done> RunScript(const Script& script, const AtlasCatalogue& atlases, BattleEvents& events) {
     const Result<Done> files = CheckFiles(script, atlases);
     if (!files.Ok()) return files;
     ScriptRun run(atlases, events);

@@ -86,8 +86,9 @@ int ValueOf(const Dialog& dialog, const AnswerStep& step, int most, int line) {
 
 void ChooseLine(Dialog& dialog, Control& list, const AnswerStep& step, int line) {
     if (!step.value) {
-        Refuse(dialog, line, "needs a line for its list " + std::to_string(step.control) +
-                                 ": write " + std::to_string(step.control) + "=0 for the first");
+        Refuse(dialog, line,
+               "needs a line for its list " + std::to_string(step.control) + ": write " +
+                   std::to_string(step.control) + "=0 for the first");
     }
     list.value = ValueOf(dialog, step, static_cast<int>(list.lines.size()) - 1, line);
 }
@@ -125,8 +126,8 @@ void Close(Dialog& dialog, int control, int line) {
     const bool known = control == kClosed || control == kOk || control == kCancel ||
                        FirstButton(dialog) == nullptr || HasButton(dialog, control);
     if (!known) {
-        Refuse(dialog, line, "has no button " + std::to_string(control) +
-                                 "; it has: " + ControlsOf(dialog));
+        Refuse(dialog, line,
+               "has no button " + std::to_string(control) + "; it has: " + ControlsOf(dialog));
     }
     dialog.closedBy = control;
 }

@@ -9,7 +9,7 @@
 #include <string>
 
 #include "model/person.h"
-#include "platform/headless/event_writer.h"
+#include "platform/headless/battle_events.h"
 #include "platform/headless/script.h"
 #include "platform/headless/settable_fields.h"
 
@@ -24,7 +24,7 @@ struct ScriptError : std::runtime_error {
 
 class ScriptedPerson : public Person {
  public:
-    explicit ScriptedPerson(EventWriter& events) : events_(events) {}
+    explicit ScriptedPerson(BattleEvents& events) : events_(events) {}
 
     // Answers wait in one queue a dialog, first in first out; boxes and files have a queue each.
     void Queue(const DialogAnswer& answer, int line);
@@ -63,7 +63,7 @@ class ScriptedPerson : public Person {
     std::optional<Waiting> TakeAnswer(int templateId);
     void AnswerByDefault(Dialog& dialog);
 
-    EventWriter& events_;
+    BattleEvents& events_;
     std::map<int, std::deque<Waiting>> dialogs_;
     std::deque<int> boxes_;
     std::deque<std::string> files_;

@@ -59,9 +59,8 @@ bool VisitNamed(Game& game, DriverSwitches& switches, const std::string& wanted,
     };
     tryField("traceDice", switches.traceDice);
     tryField("riders", switches.riders);
-    RecordFields<Settings>::ForEach([&](const char* name, auto member, Width) {
-        tryField(name, game.settings.*member);
-    });
+    RecordFields<Settings>::ForEach(
+        [&](const char* name, auto member, Width) { tryField(name, game.settings.*member); });
     ForEachStateField(game, tryField);
     return found;
 }

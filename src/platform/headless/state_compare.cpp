@@ -34,7 +34,8 @@ std::string Show(const std::array<char, kSize>& text) {
 template <typename Value, std::size_t kSize>
 std::string Show(const std::array<Value, kSize>& values) {
     std::string text;
-    for (const Value& value : values) text += (text.empty() ? "" : " ") + Show(value);
+    for (const Value& value : values)
+        text += (text.empty() ? "" : " ") + Show(value);
     return text;
 }
 
@@ -48,7 +49,8 @@ class Comparison {
     template <typename Record>
     void NoteRecord(const RecordName& name, const Record& now, const Record& was) {
         RecordFields<Record>::ForEach([&](const char* field, auto member, auto...) {
-            if (now.*member != was.*member) Note(name.Text() + " " + field, now.*member, was.*member);
+            if (now.*member != was.*member)
+                Note(name.Text() + " " + field, now.*member, was.*member);
         });
     }
 

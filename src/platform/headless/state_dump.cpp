@@ -12,8 +12,7 @@ namespace {
 using Json = nlohmann::ordered_json;
 
 template <typename Value>
-    requires std::is_integral_v<Value> || std::is_enum_v<Value>
-Json ToJson(Value value) {
+requires std::is_integral_v<Value> || std::is_enum_v<Value> Json ToJson(Value value) {
     return static_cast<int>(value);
 }
 
@@ -27,14 +26,15 @@ Json ToJson(Cell cell) {
 
 template <std::size_t kSize>
 Json ToJson(const std::array<char, kSize>& text) {
-    return ToUtf8({text.data(), static_cast<std::size_t>(
-                                    std::find(text.begin(), text.end(), '\0') - text.begin())});
+    return ToUtf8({text.data(), static_cast<std::size_t>(std::find(text.begin(), text.end(), '\0') -
+                                                         text.begin())});
 }
 
 template <typename Value, std::size_t kSize>
 Json ToJson(const std::array<Value, kSize>& values) {
     Json list = Json::array();
-    for (const Value& value : values) list.push_back(ToJson(value));
+    for (const Value& value : values)
+        list.push_back(ToJson(value));
     return list;
 }
 
@@ -54,7 +54,8 @@ Json RecordAsJson(const Record& record) {
 template <typename Records>
 Json RecordsAsJson(const Records& records) {
     Json list = Json::array();
-    for (const auto& record : records) list.push_back(RecordAsJson(record));
+    for (const auto& record : records)
+        list.push_back(RecordAsJson(record));
     return list;
 }
 
@@ -78,7 +79,8 @@ Json UnitsOfArmy(const ArmyUnits& units) {
 
 Json AllUnits(const std::vector<ArmyUnits>& armies) {
     Json list = Json::array();
-    for (const ArmyUnits& units : armies) list.push_back(UnitsOfArmy(units));
+    for (const ArmyUnits& units : armies)
+        list.push_back(UnitsOfArmy(units));
     return list;
 }
 
@@ -102,9 +104,8 @@ Json ChangedCells(const std::vector<MapCell>& now, const std::vector<MapCell>& w
 
 // The log without the zeros at its end.
 Json UsedRollLog(const TurnLogBlock& turnLog) {
-    const auto used =
-        std::find_if(turnLog.rollLog.rbegin(), turnLog.rollLog.rend(),
-                     [](std::int16_t entry) { return entry != 0; });
+    const auto used = std::find_if(turnLog.rollLog.rbegin(), turnLog.rollLog.rend(),
+                                   [](std::int16_t entry) { return entry != 0; });
     return std::vector<int>(turnLog.rollLog.begin(), used.base());
 }
 
@@ -146,7 +147,8 @@ Json FileAsJson(const BattleFile& file) {
 std::vector<MapCell> WholeCells(const Grid& grid) {
     std::vector<MapCell> cells;
     for (int y = 0; y < grid.Height(); ++y) {
-        for (int x = 0; x < grid.Width(); ++x) cells.push_back(grid.Whole({x, y}));
+        for (int x = 0; x < grid.Width(); ++x)
+            cells.push_back(grid.Whole({x, y}));
     }
     return cells;
 }

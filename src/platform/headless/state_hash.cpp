@@ -13,7 +13,7 @@ class Hash {
     explicit Hash(std::uint64_t start) : value_(start) {}
 
     template <typename Number>
-        requires std::is_integral_v<Number> || std::is_enum_v<Number>
+    requires std::is_integral_v<Number> || std::is_enum_v<Number>
     void Add(Number number) {
         value_ = (value_ ^ static_cast<std::uint32_t>(number)) * 1099511628211ULL;
         value_ ^= value_ >> 32;
@@ -26,7 +26,8 @@ class Hash {
     }
     template <typename Value, std::size_t kSize>
     void Add(const std::array<Value, kSize>& values) {
-        for (const Value& value : values) Add(value);
+        for (const Value& value : values)
+            Add(value);
     }
     template <typename Record>
     void AddRecord(const Record& record) {

@@ -1,0 +1,18 @@
+// Orders that restore a unit: ammunition from a friend nearby, and rallying the shaken and routed.
+#pragma once
+
+#include "model/game.h"
+
+namespace varnstride {
+
+// Fills the ammunition of the unit in hand for the rest of its turn, when a friend stands within
+// one area. Whether it was supplied.
+bool ResupplyUnit(Game& game);
+
+// Rallies the unit in hand, which is shaken and has no enemy in its area.
+void RallyShaken(Game& game);
+
+// Throws for the unit in hand, which is routed.
+void RallyRouted(Game& game);
+
+}  // namespace varnstride
