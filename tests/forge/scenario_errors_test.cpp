@@ -230,7 +230,7 @@ TEST(ScenarioErrors, DamagedSourcesAreRefusedOrSound) {
     int refused = 0;
     for (int round = 0; round < 400; ++round) {
         std::string text = ToyText();
-        for (int slip = 0; slip < 3; ++slip) {
+        for (int slips = 1 + static_cast<int>(chance() % 3); slips > 0; --slips) {
             const std::size_t at = chance() % text.size();
             const std::size_t lost = chance() % 3 == 0 ? chance() % 40 : chance() % 2;
             text.replace(at, std::min(lost, text.size() - at), 1, kTyped[chance() % kTyped.size()]);
