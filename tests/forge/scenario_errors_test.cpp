@@ -128,6 +128,7 @@ const std::vector<BrokenSource>& BrokenSources() {
          {{"| 3,1 |", "| 3,2 |"}},
          {{"1st Foot", "3,2, which is no French slot: expected one, in its area 1,1, 3,1 or 1,3"}}},
         {"OnAnEnemySlot", {{"| 3,1 |", "| 2,6 |"}}, {{"1st Foot", "no French slot"}}},
+        {"UnitNowhere", {{"| 2,4 | 2 80%", "| -   | 2 80%"}}, {{"2nd Foot", "column \"at\""}}},
         {"UnitOffGrid",
          {{"| 3,1 |", "| 3,9 |"}},
          {{"1st Foot", "at: expected a cell of the grid"}}},
