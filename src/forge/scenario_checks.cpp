@@ -39,7 +39,7 @@ class UnitChecks {
         if (const auto fault = FindFaultOf(unit); fault && !(strict && LacksColumns(unit))) {
             build_.errors.Add(line, NameOf(unit) + ": " + *fault);
         }
-        if (unit.strength <= 0 || slots_.empty()) return;
+        if (unit.strength <= 0 || slots_.empty() || (strict && unit.Place() == kNoCell)) return;
         if (StandsAtStart(build_.file, unit)) {
             CheckSlot(id, unit, line);
         } else if (strict && grid_.AreaOf(unit.Place()) == 0) {
@@ -64,6 +64,7 @@ class UnitChecks {
         need(unit.strength > 0, "strength");
         need(unit.quality != Quality::None, "quality");
         need(unit.maxMorale > 0, "morale");
+        need(unit.Place() != kNoCell, "at");
     }
 
     void CheckSlot(UnitId id, const Unit& unit, int line) {

@@ -128,6 +128,7 @@ const std::vector<BrokenSource>& BrokenSources() {
          {{"| 3,1 |", "| 3,2 |"}},
          {{"1st Foot", "3,2, which is no French slot: expected one, in its area 1,1, 3,1 or 1,3"}}},
         {"OnAnEnemySlot", {{"| 3,1 |", "| 2,6 |"}}, {{"1st Foot", "no French slot"}}},
+        {"UnitNowhere", {{"| 2,4 | 2 80%", "| -   | 2 80%"}}, {{"2nd Foot", "column \"at\""}}},
         {"UnitOffGrid",
          {{"| 3,1 |", "| 3,9 |"}},
          {{"1st Foot", "at: expected a cell of the grid"}}},
@@ -230,7 +231,7 @@ TEST(ScenarioErrors, DamagedSourcesAreRefusedOrSound) {
     int refused = 0;
     for (int round = 0; round < 400; ++round) {
         std::string text = ToyText();
-        for (int slip = 0; slip <= round % 3; ++slip) {
+        for (int slips = 1 + static_cast<int>(chance() % 3); slips > 0; --slips) {
             const std::size_t at = chance() % text.size();
             const std::size_t lost = chance() % 3 == 0 ? chance() % 40 : chance() % 2;
             text.replace(at, std::min(lost, text.size() - at), 1, kTyped[chance() % kTyped.size()]);
