@@ -2,6 +2,8 @@
 
 #include <cstdint>
 #include <cstring>
+#include <iterator>
+#include <utility>
 #include <vector>
 
 #include "model/tile_sheets.h"
@@ -29,9 +31,21 @@ constexpr int NumberOf(const Record& record) {
     return static_cast<int>(record.*Field);
 }
 
-template <typename Record, std::size_t Count>
-Fault FindFieldFault(const Record& record, const FieldRange<Record> (&ranges)[Count]) {
-    for (const FieldRange<Record>& range : ranges) {
+template <const auto& kRanges, std::size_t... kIndex, typename Record>
+bool AreAllInside(const Record& record, std::index_sequence<kIndex...>) {
+    return ((kRanges[kIndex].value(record) >= kRanges[kIndex].low &&
+             kRanges[kIndex].value(record) <= kRanges[kIndex].high) &&
+            ...);
+}
+
+// A map has a hundred thousand numbers to look at: the compiler makes plain comparisons of them,
+// and the table is walked only for a record that has a fault.
+template <const auto& kRanges, typename Record>
+Fault FindFieldFault(const Record& record) {
+    if (AreAllInside<kRanges>(record, std::make_index_sequence<std::size(kRanges)>())) {
+        return std::nullopt;
+    }
+    for (const FieldRange<Record>& range : kRanges) {
         const int value = range.value(record);
         if (value < range.low || value > range.high) {
             return OutOfRange(range.name, value, range.low, range.high);
@@ -165,8 +179,8 @@ Fault FindTextFault(const BattleFile& file, const AtlasCatalogue&) {
 }
 
 Fault FindHeaderFault(const BattleFile& file, const AtlasCatalogue&) {
-    if (const Fault fault = FindFieldFault(file.header, kHeaderRanges)) return In("header", fault);
-    return In("time", FindFieldFault(file.time, kTimeRanges));
+    if (const Fault fault = FindFieldFault<kHeaderRanges>(file.header)) return In("header", fault);
+    return In("time", FindFieldFault<kTimeRanges>(file.time));
 }
 
 Fault FindArmyFault(const BattleFile& file, const AtlasCatalogue&) {
@@ -189,16 +203,20 @@ Fault FindArmyFault(const BattleFile& file, const AtlasCatalogue&) {
     return std::nullopt;
 }
 
+const Unit& UnitOf(const BattleFile& file, UnitId id) {
+    return file.units[static_cast<std::size_t>(id.army)][static_cast<std::size_t>(id.index)];
+}
+
+std::string PlaceText(UnitId id) {
+    return "units: army " + std::to_string(id.army) + " unit " + std::to_string(id.index);
+}
+
 template <typename Visit>
 Fault FindInUnits(const BattleFile& file, Visit visit) {
     for (int army = 0; army < file.armyCount; ++army) {
         for (int index = 0; index < file.unitsPerArmy; ++index) {
-            const Unit& unit =
-                file.units[static_cast<std::size_t>(army)][static_cast<std::size_t>(index)];
-            const Fault fault = visit(UnitId{army, index}, unit);
-            if (!fault) continue;
-            return In("units: army " + std::to_string(army) + " unit " + std::to_string(index),
-                      fault);
+            const UnitId id{army, index};
+            if (const Fault fault = visit(id, UnitOf(file, id))) return In(PlaceText(id), fault);
         }
     }
     return std::nullopt;
@@ -285,11 +303,15 @@ class PlaceCheck {
 // Units that have stood for longer come before those due this turn, which may be waiting.
 Fault FindPlaceFault(const BattleFile& file, const AtlasCatalogue& atlases) {
     PlaceCheck check(file, *atlases.Find(file.header.mapNumber));
-    for (const bool due : {false, true}) {
-        const Fault fault = FindInUnits(file, [&](UnitId id, const Unit& unit) -> Fault {
-            return MayStillWait(file, unit) == due ? check.Test(id, unit) : std::nullopt;
-        });
-        if (fault) return fault;
+    std::vector<UnitId> due;
+    const Fault fault = FindInUnits(file, [&](UnitId id, const Unit& unit) -> Fault {
+        if (!MayStillWait(file, unit)) return check.Test(id, unit);
+        due.push_back(id);
+        return std::nullopt;
+    });
+    if (fault) return fault;
+    for (UnitId id : due) {
+        if (auto late = check.Test(id, UnitOf(file, id))) return In(PlaceText(id), late);
     }
     return check.FindStrayOccupant();
 }
@@ -297,13 +319,13 @@ Fault FindPlaceFault(const BattleFile& file, const AtlasCatalogue& atlases) {
 }  // namespace
 
 Fault FindFaultOf(const MapCell& cell) {
-    return FindFieldFault(cell, kCellRanges);
+    return FindFieldFault<kCellRanges>(cell);
 }
 
 Fault FindFaultOf(const Unit& unit) {
     if (!IsUsed(unit)) return std::nullopt;
     if (!EndsInside(unit.name)) return "name has no end";
-    if (const Fault fault = FindFieldFault(unit, kUnitRanges)) return fault;
+    if (const Fault fault = FindFieldFault<kUnitRanges>(unit)) return fault;
     if (unit.strength > 0 && unit.maxMorale == 0) return "maxMorale is 0";
     return std::nullopt;
 }

@@ -38,7 +38,7 @@ class SoundFiles {
 
 // The places that decide most lie close together; half the changes go there.
 std::size_t PlaceOf(std::span<const std::uint8_t> change, std::size_t size) {
-    const std::size_t far = change[1] | change[2] << 8U | change[3] << 16U;
+    const std::size_t far = change[1] + 256U * change[2] + 65536U * change[3];
     if (change[0] % 2 == 0) return far % size;
     constexpr std::size_t kFrontLength = 2 * 148 + 3514 + 7 * 38 + 16 + 14 + 1154 + 8;
     return (kLayout.Counts() + far % kFrontLength) % size;
