@@ -89,7 +89,9 @@ class Tally {
 };
 
 std::string NameOf(UnitId id) {
-    return std::string(ArmyName(id.army)) + " unit " + std::to_string(id.index);
+    const std::string_view name = ArmyName(id.army);
+    const std::string army = name.empty() ? "army " + std::to_string(id.army) : std::string(name);
+    return army + " unit " + std::to_string(id.index);
 }
 
 bool IsRecord(UnitId id) {

@@ -140,6 +140,7 @@ TEST(Forecast, SaysWhyThereIsNone) {
     const Objection cases[] = {
         {{{kFrench, 9}, away}, "French unit 9 is not on the map"},
         {{attacker, {kBritish, 600}}, "there is no such unit: British unit 600"},
+        {{{9, 1}, away}, "there is no such unit: army 9 unit 1"},
         {{attacker, friendly}, "French unit 1 and French unit 2 are on the same side"},
         {{attacker, away}, "French unit 1 and British unit 1 do not stand in the same area"},
         {{attacker, away, true}, "French unit 1 has no guns to bombard with"},
