@@ -81,14 +81,18 @@ std::string AttackerLossLine(const Game& game) {
     return " Attacker Strength Loss = " + std::to_string(game.battle.attackerLoss);
 }
 
+int TypeNumber(const Unit& unit) {
+    return static_cast<int>(unit.type);
+}
+
 Dialog ResultBox(const Game& game, const AttackReport& report) {
     Dialog box{.templateId = kBattleResult};
     box.AddLabel(1042, report.targetName);
     box.AddLabel(1642, std::string(ArmyName(report.target.army)));
-    box.AddLabel(1404, std::string(TypeNameOf(Target(game).type)));
+    box.AddLabel(1404, std::string(TypeNameOf(TypeNumber(Target(game)))));
     box.AddLabel(1403, report.attackerName);
     box.AddLabel(1405, std::string(ArmyName(report.attacker.army)));
-    box.AddLabel(1402, std::string(AttackerTypeNameOf(game.InHand().type)));
+    box.AddLabel(1402, std::string(AttackerTypeNameOf(TypeNumber(game.InHand()))));
     box.AddLabel(1098, std::to_string(report.defenderHit));
     box.AddLabel(1641, std::to_string(report.attackerHit));
     box.AddLabel(1414, DefenderLossLine(game));

@@ -4,10 +4,13 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
-#include <limits>
+#include <cstring>
 #include <span>
+#include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "model/record_fields.h"
@@ -23,7 +26,15 @@ class ByteWriter {
         std::copy(bytes.begin(), bytes.end(), bytes_.begin() + static_cast<std::ptrdiff_t>(at_));
         at_ += bytes.size();
     }
-    void Number(std::int64_t value, Width width);
+    void Number(std::int64_t value, Width width) {
+        const bool narrow = width == Width::Int16;
+        const std::int64_t low = narrow ? INT16_MIN : INT32_MIN;
+        const std::int64_t high = narrow ? INT16_MAX : INT32_MAX;
+        const auto bits = static_cast<std::uint32_t>(std::clamp(value, low, high));
+        for (int byte = 0; byte < static_cast<int>(width); ++byte) {
+            bytes_[at_++] = static_cast<std::byte>(bits >> (8 * byte) & 0xFFU);
+        }
+    }
     template <typename Record>
     void Put(const Record& record);
 
@@ -48,7 +59,15 @@ class ByteReader {
         at_ += count;
         return bytes_.subspan(at_ - count, count);
     }
-    int Number(Width width);
+    int Number(Width width) {
+        const auto bytes = Bytes(static_cast<std::size_t>(width));
+        std::uint32_t bits = 0;
+        for (std::size_t byte = 0; byte < bytes.size(); ++byte) {
+            bits |= static_cast<std::uint32_t>(bytes[byte]) << (8 * byte);
+        }
+        if (width == Width::Int16) return static_cast<std::int16_t>(bits);
+        return static_cast<std::int32_t>(bits);
+    }
     template <typename Record>
     void Get(Record& record);
 
@@ -77,6 +96,14 @@ constexpr std::size_t SizeInFile() {
     std::size_t size = 0;
     RecordFields<Record>::ForEach(FieldSizes<Record>{size});
     return size;
+}
+
+// Whether the record lies in memory as it does in a file, so that it can be copied as a whole: with
+// nothing but fields of four bytes, which its struct declares in the order of its list.
+template <typename Record>
+constexpr bool IsFileImage() {
+    return std::endian::native == std::endian::little && std::is_trivially_copyable_v<Record> &&
+           sizeof(Record) == SizeInFile<Record>();
 }
 
 template <typename Record>
@@ -113,12 +140,20 @@ struct FieldReader {
 
 template <typename Record>
 void ByteWriter::Put(const Record& record) {
-    RecordFields<Record>::ForEach(FieldWriter<Record>{*this, record});
+    if constexpr (IsFileImage<Record>()) {
+        Bytes(std::as_bytes(std::span(&record, 1)));
+    } else {
+        RecordFields<Record>::ForEach(FieldWriter<Record>{*this, record});
+    }
 }
 
 template <typename Record>
 void ByteReader::Get(Record& record) {
-    RecordFields<Record>::ForEach(FieldReader<Record>{*this, record});
+    if constexpr (IsFileImage<Record>()) {
+        std::memcpy(&record, Bytes(sizeof(Record)).data(), sizeof(Record));
+    } else {
+        RecordFields<Record>::ForEach(FieldReader<Record>{*this, record});
+    }
 }
 
 }  // namespace varnstride

@@ -1,10 +1,8 @@
-// What the arms are called in the result of a battle.
+// What the arms are called in the result of a battle, by the number of their type.
 #pragma once
 
 #include <array>
 #include <string_view>
-
-#include "model/unit.h"
 
 namespace varnstride {
 
@@ -30,14 +28,15 @@ constexpr std::array<std::string_view, 18> kTypeNames = {
 };
 
 // Nothing for a type that does not fight.
-constexpr std::string_view TypeNameOf(UnitType type) {
+constexpr std::string_view TypeNameOf(int type) {
     const auto index = static_cast<std::size_t>(type);
     return index < kTypeNames.size() ? kTypeNames[index] : std::string_view{};
 }
 
 // The attacker's label has its own spelling of the light cavalry.
-constexpr std::string_view AttackerTypeNameOf(UnitType type) {
-    return type == UnitType::LightCavalry ? "Light Cavaly" : TypeNameOf(type);
+constexpr std::string_view AttackerTypeNameOf(int type) {
+    constexpr int kLightCavalry = 8;
+    return type == kLightCavalry ? "Light Cavaly" : TypeNameOf(type);
 }
 
 }  // namespace varnstride
