@@ -139,7 +139,7 @@ void PayCommandPoints(Game& game) {
 // A unit on the run may lose stragglers, and itself with its last strength point.
 void SufferOnTheRun(Game& game) {
     constexpr int kUnlucky = 1;
-    if (LoggedDie(game, 6) == kUnlucky) {
+    if (LoggedDieShows(game, 6, kUnlucky)) {
         const UnitId id = game.InHandId();
         Unit& unit = game.At(id);
         const int worth = ValueOfUnit(unit);

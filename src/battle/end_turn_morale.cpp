@@ -3,6 +3,7 @@
 #include "actions/courier.h"
 #include "actions/losses.h"
 #include "actions/top_bar.h"
+#include "battle/loss_notice.h"
 #include "battle/morale.h"
 #include "model/areas.h"
 #include "model/census.h"
@@ -11,7 +12,6 @@
 #include "model/terrain.h"
 #include "model/unit_rules.h"
 #include "model/units_on_map.h"
-#include "resources/army_names.h"
 #include "resources/dialog_ids.h"
 
 namespace varnstride {
@@ -116,12 +116,7 @@ void RecoverRouted(Game& game) {
 }
 
 void ReportRoutLoss(Game& game, int loss) {
-    Dialog report{.templateId = kRoutedUnitReport, .caption = "Routed Unit Report"};
-    report.AddLabel(1402, std::string(ArmyTitle(game.state.currentArmy)));
-    report.AddLabel(1403, game.InHand().name.data());
-    report.AddLabel(1404, std::to_string(loss));
-    report.AddButton(kOk, "OK");
-    game.person->Ask(report);
+    ShowLossNotice(game, {kRoutedUnitReport, "Routed Unit Report"}, game.InHandId(), loss);
 }
 
 // Takes the unit in hand off the map, its slot with it.
@@ -186,7 +181,7 @@ int SmokeDie(int windSpeed) {
 }
 
 void ThinSmoke(Game& game) {
-    if (game.time.windSpeed <= 0 || LoggedDie(game, SmokeDie(game.time.windSpeed)) != 1) return;
+    if (game.time.windSpeed <= 0 || !LoggedDieShows(game, SmokeDie(game.time.windSpeed), 1)) return;
     for (PlayCell& cell : game.grid.PlayCells()) {
         if (cell.roadTile == kSmoke) cell.roadTile = kNoRoad;
     }

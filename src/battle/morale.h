@@ -7,8 +7,8 @@
 namespace varnstride {
 
 // Tests the unit in hand against the opposing unit (targetArmy, targetUnit; none outside an
-// attack). The caller sets moraleHeld to 1; a failure clears it and may cost status, morale and
-// formation.
+// attack). For a test of the target the two have changed places, with defenderTested 1. The caller
+// sets moraleHeld to 1; a failure clears it and may cost status, morale and formation.
 void MoraleTest(Game& game);
 
 // All units of all armies at the end of a game turn. currentArmy and currentUnit are loop variables

@@ -59,10 +59,7 @@ int ScoreForGround(const BattleState& battle) {
 int ScoreForOpponent(const Game& game, const Unit& unit) {
     const BattleState& battle = game.battle;
     if (battle.targetUnit == 0) return 0;
-    const UnitId opponentId = battle.defenderTested == 1
-                                  ? battle.testedAgainst
-                                  : UnitId{battle.targetArmy, battle.targetUnit};
-    const Unit& opponent = game.At(opponentId);
+    const Unit& opponent = game.At({battle.targetArmy, battle.targetUnit});
     int score = 0;
     if (battle.defenderTested == 1 && opponent.formation == Formation::AttackColumn) score -= 2;
     const bool horse = IsBetween(opponent.type, UnitType::LightCavalry, UnitType::CossackCavalry);

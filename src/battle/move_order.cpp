@@ -13,6 +13,7 @@
 #include "actions/undo.h"
 #include "actions/unit_in_hand.h"
 #include "battle/attack.h"
+#include "battle/enemy_slots.h"
 #include "model/areas.h"
 #include "model/reach.h"
 #include "model/units_on_map.h"
@@ -40,8 +41,8 @@ bool HasPointsToOrder(Game& game) {
 }
 
 bool TargetIsLegal(const Game& game) {
-    return game.state.selectedSlot > 0 && game.grid.IsLit(game.state.targetCell) &&
-           game.InHand().outOfCommand == 0;
+    return game.state.selectedSlot > 0 && IsOnMap(game, game.InHandId()) &&
+           game.grid.IsLit(game.state.targetCell) && game.InHand().outOfCommand == 0;
 }
 
 // What a player must hear before anything is ordered; whether the order goes on.
@@ -172,6 +173,7 @@ void Strike(Game& game) {
     game.battle.primaryCell = unit.Place();
     if (EnemyPresent(game)) {
         game.battle.requiredLeadership = 0;
+        FillEnemySlots(game);
         ComputeTerrainDefence(game);
         ResolveAttack(game);
         game.undo.undoAvailable = 0;

@@ -8,6 +8,7 @@
 #include "battle/tactics_tables.h"
 #include "model/dice.h"
 #include "model/terrain.h"
+#include "resources/tactic_names.h"
 
 namespace varnstride {
 namespace {
@@ -71,7 +72,8 @@ OfferedTactic AskForTactic(Game& game, const TacticsDialog& offered) {
     Dialog dialog{.templateId = offered.templateId, .caption = std::string(offered.caption)};
     const auto end = offered.offers.begin() + offered.count;
     for (auto offer = offered.offers.begin(); offer != end; ++offer) {
-        dialog.AddButton(ButtonOf(*offer), std::string(TacticText(offer->tactic)));
+        dialog.AddButton(ButtonOf(*offer),
+                         std::string(kTacticNames[static_cast<std::size_t>(offer->tactic)]));
     }
     game.person->Ask(dialog);
     const auto pressed = std::find_if(offered.offers.begin(), end, [&](const OfferedTactic& offer) {
@@ -106,14 +108,6 @@ void LetPersonChoose(Game& game) {
 }
 
 }  // namespace
-
-std::string_view TacticText(int tactic) {
-    return kTacticTexts[static_cast<std::size_t>(tactic)];
-}
-
-std::string_view ResponseText(int response) {
-    return kResponseTexts[static_cast<std::size_t>(response)];
-}
 
 int AdvantageOf(int tactic, int response) {
     if (response == static_cast<int>(TacticalResponse::DefenderRouted)) return kAdvantageOverRouted;

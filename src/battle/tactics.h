@@ -2,8 +2,6 @@
 // what he has, and the attacker, who does not see it, picks a tactic from what he has himself.
 #pragma once
 
-#include <string_view>
-
 #include "model/game.h"
 
 namespace varnstride {
@@ -33,10 +31,6 @@ enum class TacticalResponse {
     FormSquare = 8,
     DefenderRouted = 9,
 };
-
-// The words of the result box, with their trailing blanks.
-std::string_view TacticText(int tactic);
-std::string_view ResponseText(int response);
 
 // What a tactic gains against a response, -3 to 4.
 int AdvantageOf(int tactic, int response);

@@ -8,24 +8,6 @@
 
 namespace varnstride {
 
-constexpr std::array<std::string_view, 10> kTacticTexts = {
-    "Hold Attack (Ranged fire) ", "Frontal Attack ",       "Frontal Assault ",
-    "Coordinated Advance ",       "Flank Attack ",         "Cavalry Charge ",
-    "Artillery Bombardment ",     "Infantry Only Advance", "Light Infantry Skirmish ",
-    "Cavalry Swarm Attack "};
-
-constexpr std::array<std::string_view, 10> kResponseTexts = {
-    "Hold the Line ",
-    "Frontal Attack ",
-    "Frontal Assault ",
-    "Withdraw Slowly ",
-    "Refuse Flank ",
-    "Artillery Fire Only ",
-    "Cavalry Counter Charge ",
-    "Light Infantry Skirmish ",
-    "Infantry form Square or already in Square ",
-    "Defender Routed - no Tactical Response "};
-
 constexpr int kAdvantageOverRouted = 4;
 
 // Advantage by tactic (row) and response 0 to 8 (column).

@@ -147,7 +147,7 @@ Cell CellAt(const BattleFile& file, std::size_t index) {
 
 Fault FindCellFault(const BattleFile& file, const AtlasCatalogue&) {
     for (std::size_t index = 0; index < file.cells.size(); ++index) {
-        const Fault fault = FindFieldFault<kCellRanges>(file.cells[index]);
+        const Fault fault = FindFaultOf(file.cells[index]);
         if (fault) return In("map: cell " + CellText(CellAt(file, index)), fault);
     }
     return std::nullopt;
@@ -228,12 +228,8 @@ bool IsUsed(const Unit& unit) {
 
 Fault FindUnitFault(const BattleFile& file, const AtlasCatalogue&) {
     return FindInUnits(file, [](UnitId id, const Unit& unit) -> Fault {
-        if (!EndsInside(unit.name)) return "name has no end";
-        if (!IsUsed(unit)) return std::nullopt;
-        if (id.index == 0) return "record 0 must stay empty";
-        if (const Fault fault = FindFieldFault<kUnitRanges>(unit)) return fault;
-        if (unit.strength > 0 && unit.maxMorale == 0) return "maxMorale is 0";
-        return std::nullopt;
+        if (id.index == 0 && IsUsed(unit)) return "record 0 must stay empty";
+        return FindFaultOf(unit);
     });
 }
 
@@ -321,6 +317,18 @@ Fault FindPlaceFault(const BattleFile& file, const AtlasCatalogue& atlases) {
 }
 
 }  // namespace
+
+Fault FindFaultOf(const MapCell& cell) {
+    return FindFieldFault<kCellRanges>(cell);
+}
+
+Fault FindFaultOf(const Unit& unit) {
+    if (!IsUsed(unit)) return std::nullopt;
+    if (!EndsInside(unit.name)) return "name has no end";
+    if (const Fault fault = FindFieldFault<kUnitRanges>(unit)) return fault;
+    if (unit.strength > 0 && unit.maxMorale == 0) return "maxMorale is 0";
+    return std::nullopt;
+}
 
 Fault FindFault(const BattleFile& file, const AtlasCatalogue& atlases) {
     using Check = Fault (*)(const BattleFile&, const AtlasCatalogue&);

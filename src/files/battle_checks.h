@@ -12,4 +12,8 @@ namespace varnstride {
 // The first fault found, as block, place and value; nothing for a sound file.
 std::optional<std::string> FindFault(const BattleFile& file, const AtlasCatalogue& atlases);
 
+// The first field out of its range in a cell or a unit by itself, as name and value.
+std::optional<std::string> FindFaultOf(const MapCell& cell);
+std::optional<std::string> FindFaultOf(const Unit& unit);
+
 }  // namespace varnstride

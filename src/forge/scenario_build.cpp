@@ -27,11 +27,11 @@ void ScenarioBuild::SetSize(int width, int height) {
     file.cells.assign(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), empty);
 }
 
-int ScenarioBuild::LineOf(UnitId id) const {
+const UnitLine* ScenarioBuild::FindLine(UnitId id) const {
     for (const UnitLine& unit : unitLines) {
-        if (unit.id == id) return unit.line;
+        if (unit.id == id) return &unit;
     }
-    return 0;
+    return nullptr;
 }
 
 std::string SourceCell(Cell cell) {

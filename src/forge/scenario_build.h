@@ -25,6 +25,7 @@ enum class ScenarioRules {
 struct UnitLine {
     UnitId id;
     int line = 0;
+    bool isSound = true;  // all of it could be read
 };
 
 struct ScenarioBuild {
@@ -55,7 +56,7 @@ struct ScenarioBuild {
     // A cell written "x,y" on the grid; anything else is an error and gives nothing.
     std::optional<Cell> CellOnGrid(std::string_view word, int line) const;
 
-    int LineOf(UnitId id) const;  // 0 when no line wrote the unit
+    const UnitLine* FindLine(UnitId id) const;  // nothing when no line wrote the unit
 };
 
 // The cell as a source writes it: "12,5".

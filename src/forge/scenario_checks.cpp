@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "files/battle_checks.h"
 #include "forge/scenario_values.h"
 #include "forge/scenario_words.h"
 #include "model/grid.h"
@@ -30,35 +31,40 @@ class UnitChecks {
     }
 
     void Check(UnitId id, const Unit& unit) {
-        const int line = build_.LineOf(id);
-        if (build_.rules == ScenarioRules::Strict) CheckAsWritten(id, unit, line);
-        if (unit.strength <= 0 || slots_.empty()) return;
+        const UnitLine* const written = build_.FindLine(id);
+        if (written != nullptr && !written->isSound) return;
+        const int line = written != nullptr ? written->line : 0;
+        const bool strict = build_.rules == ScenarioRules::Strict && written != nullptr;
+        if (strict) CheckAsWritten(unit, line);
+        if (const auto fault = FindFaultOf(unit); fault && !(strict && LacksColumns(unit))) {
+            build_.errors.Add(line, NameOf(unit) + ": " + *fault);
+        }
+        if (unit.strength <= 0 || slots_.empty() || (strict && unit.Place() == kNoCell)) return;
         if (StandsAtStart(build_.file, unit)) {
             CheckSlot(id, unit, line);
-        } else if (build_.rules == ScenarioRules::Strict && grid_.AreaOf(unit.Place()) == 0) {
+        } else if (strict && grid_.AreaOf(unit.Place()) == 0) {
             build_.errors.Add(line, NameOf(unit) + " arrives at " + SourceCell(unit.Place()) +
                                         ", which lies in no area: expected a cell of one");
         }
     }
 
  private:
-    void CheckAsWritten(UnitId id, const Unit& unit, int line) const {
+    static bool LacksColumns(const Unit& unit) {
+        return unit.type == UnitType::None || unit.quality == Quality::None || unit.maxMorale == 0;
+    }
+
+    void CheckAsWritten(const Unit& unit, int line) const {
         const auto need = [&](bool given, const std::string& column) {
             if (given) return;
             build_.errors.Add(line,
                               NameOf(unit) + ": expected a value in the column \"" + column + "\"");
         };
-        if (line == 0) return;
         need(unit.name[0] != '\0', "name");
         need(unit.type != UnitType::None, "type");
         need(unit.strength > 0, "strength");
         need(unit.quality != Quality::None, "quality");
         need(unit.maxMorale > 0, "morale");
-        if (build_.file.armies[static_cast<std::size_t>(id.army)].present == 0) {
-            build_.errors.Add(line, NameOf(unit) +
-                                        " belongs to an army that [armies] does not "
-                                        "name: expected an army with Command Points");
-        }
+        need(unit.Place() != kNoCell, "at");
     }
 
     void CheckSlot(UnitId id, const Unit& unit, int line) {
@@ -75,8 +81,13 @@ class UnitChecks {
         if (isFree) return;
         build_.errors.Add(line, NameOf(unit) + " stands at " + SourceCell(unit.Place()) +
                                     " where the unit of line " +
-                                    std::to_string(build_.LineOf(holder->second)) +
+                                    std::to_string(LineOf(holder->second)) +
                                     " stands: expected an empty slot");
+    }
+
+    int LineOf(UnitId id) const {
+        const UnitLine* const written = build_.FindLine(id);
+        return written != nullptr ? written->line : 0;
     }
 
     static std::string SideName(Side side) { return side == Side::French ? "French" : "Allied"; }

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "files/battle_checks.h"
+#include "forge/ground_rules.h"
 #include "forge/scenario_battle.h"
 #include "forge/scenario_checks.h"
 #include "forge/scenario_fields.h"
@@ -57,19 +59,35 @@ ScenarioBuild Assemble(std::string_view source, const AtlasCatalogue& atlases,
     return build;
 }
 
+// What no line alone is to blame for: a fault of the file as a whole.
+void CheckFile(const ScenarioBuild& build, const AtlasCatalogue& atlases) {
+    if (const auto fault = FindFault(build.file, atlases)) build.errors.Add(0, *fault);
+}
+
+void CheckBattlefield(const ScenarioBuild& build, std::vector<std::string>& warnings) {
+    if (build.rules == ScenarioRules::Strict) {
+        CheckGround(*build.atlas, build.file, build.errors, warnings);
+        return;
+    }
+    SourceErrors breaches("loose rules");
+    CheckGround(*build.atlas, build.file, breaches, warnings);
+    if (!breaches.IsEmpty()) warnings.push_back(breaches.Text());
+}
+
 }  // namespace
 
-CompiledScenario AssembleScenario(std::string_view text, const AtlasCatalogue& atlases,
-                                  SourceErrors& errors) {
-    ScenarioBuild build = Assemble(text, atlases, errors);
-    return {std::move(build.file), build.rules};
+BattleFile AssembleScenario(std::string_view text, const AtlasCatalogue& atlases) {
+    SourceErrors ignored("");
+    return Assemble(text, atlases, ignored).file;
 }
 
 std::optional<CompiledScenario> CompileScenario(std::string_view text,
-                                                const AtlasCatalogue& atlases,
-                                                SourceErrors& errors) {
+                                                const AtlasCatalogue& atlases, SourceErrors& errors,
+                                                std::vector<std::string>& warnings) {
     ScenarioBuild build = Assemble(text, atlases, errors);
     CheckScenario(build);
+    if (errors.IsEmpty()) CheckFile(build, atlases);
+    if (errors.IsEmpty()) CheckBattlefield(build, warnings);
     if (!errors.IsEmpty()) return std::nullopt;
     return CompiledScenario{std::move(build.file), build.rules};
 }

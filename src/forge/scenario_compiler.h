@@ -3,7 +3,9 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "forge/scenario_build.h"
 
@@ -15,13 +17,13 @@ struct CompiledScenario {
 };
 
 // Reads the whole source and gathers every mistake with its line; with any of them there is no
-// scenario. Whether the ground suits the battlefield is asked by CheckGround.
+// scenario. A source that can be read is held against the rules of its battlefield too, whose
+// breaches are warnings under loose rules.
 std::optional<CompiledScenario> CompileScenario(std::string_view text,
-                                                const AtlasCatalogue& atlases,
-                                                SourceErrors& errors);
+                                                const AtlasCatalogue& atlases, SourceErrors& errors,
+                                                std::vector<std::string>& warnings);
 
 // What a source says, as far as it can be read, with no check between the sections.
-CompiledScenario AssembleScenario(std::string_view text, const AtlasCatalogue& atlases,
-                                  SourceErrors& errors);
+BattleFile AssembleScenario(std::string_view text, const AtlasCatalogue& atlases);
 
 }  // namespace varnstride

@@ -4,15 +4,13 @@
 
 #include <string>
 
-#include "forge/scenario_build.h"
-#include "model/result.h"
+#include "files/battle_file.h"
 
 namespace varnstride {
 
 // A source that gives the file back to the last byte. The file has been read and found sound, in
-// the present layout or the older one; the source is of the present. With loose rules the source
-// asks for nothing beyond that.
-std::string DecompileScenario(const BattleFile& file, const AtlasCatalogue& atlases,
-                              ScenarioRules rules);
+// the present layout or the older one; the source is of the present. A file that breaks rules of
+// its battlefield gets a source with loose rules.
+std::string DecompileScenario(const BattleFile& file, const AtlasCatalogue& atlases);
 
 }  // namespace varnstride

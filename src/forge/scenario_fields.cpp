@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "files/battle_checks.h"
 #include "forge/scenario_values.h"
 #include "forge/scenario_words.h"
 #include "forge/source_text.h"
@@ -9,6 +10,7 @@
 namespace varnstride {
 namespace {
 
+constexpr std::size_t kRolls = kRollLogSize;
 constexpr std::size_t kRollsInALine = 16;
 
 // The blocks of a file that stand there once.
@@ -64,9 +66,9 @@ std::string SetOfMany(BattleFile& file, const std::vector<std::string_view>& blo
 }
 
 std::string SetRolls(BattleFile& file, std::string_view start, std::string_view values) {
-    const auto first = NumberBelow(start, kRollLogSize);
+    const auto first = NumberBelow(start, kRolls);
     const auto words = Words(values);
-    if (!first || *first + words.size() > kRollLogSize) return std::string(kPlaces);
+    if (!first || *first + words.size() > kRolls) return std::string(kPlaces);
     for (std::size_t at = 0; at < words.size(); ++at) {
         int roll = 0;
         const std::string wrong = ReadValue(words[at], roll, Width::Int16);
@@ -102,6 +104,9 @@ void ApplyCellLine(const SourceLine& line, ScenarioBuild& build) {
                 : SetField(target, words[word].substr(0, equals), words[word].substr(equals + 1));
         if (!wrong.empty()) build.errors.Add(line.number, wrong);
     }
+    MapCell finished = target;
+    if (finished.borderTile == kBorderToBeDrawn) finished.borderTile = 0;
+    if (const auto fault = FindFaultOf(finished)) build.errors.Add(line.number, *fault);
 }
 
 // The lines of [fields] for one record after the other.

@@ -76,11 +76,14 @@ void UnitTable::ReadRow(const SourceLine& line) {
         if (columns_[part] != kNoColumn) row[columns_[part]] = parts[part];
     }
     const std::optional<int> index = IndexOf(row[kIndexColumn], line.number);
-    const Unit unit = UnitFromRow(row, line.number, build_);
+    std::vector<std::string> faults;
+    const Unit unit = UnitFromRow(row, build_, faults);
+    for (std::string& fault : faults)
+        build_.errors.Add(line.number, std::move(fault));
     if (!index) return;
     const auto army = static_cast<std::size_t>(section_.army);
-    build_.file.units[army][static_cast<std::size_t>(*index)] = unit;
-    build_.unitLines.push_back({{section_.army, *index}, line.number});
+    if (faults.empty()) build_.file.units[army][static_cast<std::size_t>(*index)] = unit;
+    build_.unitLines.push_back({{section_.army, *index}, line.number, faults.empty()});
 }
 
 std::optional<int> UnitTable::IndexOf(std::string_view text, int line) {
@@ -94,11 +97,19 @@ std::optional<int> UnitTable::IndexOf(std::string_view text, int line) {
         return std::nullopt;
     }
     lastIndex_ = *index;
-    const int earlier = build_.LineOf({section_.army, *index});
-    if (earlier == 0) return index;
+    const UnitLine* const earlier = build_.FindLine({section_.army, *index});
+    if (earlier == nullptr) return index;
     build_.errors.Add(line, "index: record " + std::to_string(*index) +
-                                " is taken by the unit on line " + std::to_string(earlier));
+                                " is taken by the unit on line " + std::to_string(earlier->line));
     return std::nullopt;
+}
+
+void CheckArmy(const ScenarioText& text, const Section& section, const ScenarioBuild& build) {
+    const bool named = build.file.armies[static_cast<std::size_t>(section.army)].present != 0;
+    if (named || text.Find(SectionKind::Armies) == nullptr) return;
+    build.errors.Add(section.line, "[armies] does not name the army " +
+                                       std::string(WordOf(kArmyWords, section.army)) +
+                                       ": expected it there with its Command Points");
 }
 
 using TableText = std::vector<std::vector<std::string>>;
@@ -134,7 +145,9 @@ TableText TableOf(const ArmyUnits& units, const ScenarioBuild& build) {
 
 void ReadUnits(const ScenarioText& text, ScenarioBuild& build) {
     for (const Section& section : text.Sections()) {
-        if (section.kind == SectionKind::Units) UnitTable(section, build).Read();
+        if (section.kind != SectionKind::Units) continue;
+        if (build.rules == ScenarioRules::Strict) CheckArmy(text, section, build);
+        UnitTable(section, build).Read();
     }
 }
 

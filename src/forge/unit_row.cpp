@@ -193,14 +193,13 @@ std::optional<std::size_t> UnitColumn(std::string_view name) {
     return std::nullopt;
 }
 
-Unit UnitFromRow(const UnitRow& row, int line, const ScenarioBuild& build) {
+Unit UnitFromRow(const UnitRow& row, const ScenarioBuild& build, std::vector<std::string>& faults) {
     Unit unit;
     unit.ammunition = kFullAmmunition;
     const auto read = [&](std::size_t column) {
         if (!IsGiven(row[column])) return;
         const std::string wrong = kColumns[column].read(row[column], unit, build);
-        if (wrong.empty()) return;
-        build.errors.Add(line, std::string(kColumns[column].name) + ": " + wrong);
+        if (!wrong.empty()) faults.push_back(std::string(kColumns[column].name) + ": " + wrong);
     };
     for (std::size_t column = 0; column < kOtherColumn; ++column)
         read(column);
@@ -220,9 +219,10 @@ std::vector<std::string> RowFromUnit(const Unit& unit, int index, const Scenario
     }
     row[kIndexColumn] = std::to_string(index);
     std::string& other = row[kOtherColumn];
+    std::vector<std::string> none;  // what is written can be read
     for (std::string more = "first pass"; !more.empty();) {
         more.clear();
-        const Unit have = UnitFromRow({row.begin(), row.end()}, 0, build);
+        const Unit have = UnitFromRow({row.begin(), row.end()}, build, none);
         ForEachDifference(have, unit, [&](std::string_view field, const std::string& value) {
             more += (more.empty() ? "" : " ") + std::string(field) + "=" + value;
         });

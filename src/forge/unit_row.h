@@ -22,8 +22,8 @@ constexpr std::size_t kIndexColumn = 0;  // the record's number is the table's o
 // The texts of a row in the order of UnitColumns; empty or "-" leaves a default.
 using UnitRow = std::vector<std::string_view>;
 
-// The record that a row describes. What cannot be read is an error and stays at its default.
-Unit UnitFromRow(const UnitRow& row, int line, const ScenarioBuild& build);
+// The record that a row describes. What cannot be read is added to the faults.
+Unit UnitFromRow(const UnitRow& row, const ScenarioBuild& build, std::vector<std::string>& faults);
 
 // The texts of a row that gives the record, on the grid of the build; columns at their default hold
 // "-".

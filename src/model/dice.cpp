@@ -1,11 +1,16 @@
 #include "model/dice.h"
 
+#include <algorithm>
+
+#include "model/dice_paths.h"
+
 namespace varnstride {
 namespace {
 
 constexpr int kReplay = 2;
 
 int Throw(Game& game, int sides) {
+    if (DicePaths* paths = game.generator.Paths()) return paths->Throw(sides);
     return game.generator.Next() % sides;
 }
 
@@ -32,6 +37,24 @@ int LoggedDie(Game& game, int sides) {
     const int value = LoggedValue(game, Throw(game, sides));
     game.person->Rolled(sides, value, true);
     return value;
+}
+
+bool LoggedDieShows(Game& game, int sides, int face) {
+    if (DicePaths* paths = game.generator.Paths()) {
+        return paths->Choose(CountChances(1, sides, face)) == 1;
+    }
+    return LoggedDie(game, sides) == face;
+}
+
+int LoggedOnes(Game& game, int dice, int sides) {
+    if (DicePaths* paths = game.generator.Paths()) {
+        return paths->Choose(CountChances(std::max(0, dice), sides, 1));
+    }
+    int ones = 0;
+    for (int die = 0; die < dice; ++die) {
+        if (Die(game, sides) == 1) ++ones;
+    }
+    return LoggedValue(game, ones);
 }
 
 }  // namespace varnstride

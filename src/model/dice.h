@@ -16,4 +16,10 @@ int LoggedValue(Game& game, int value);
 // A die whose throw is logged.
 int LoggedDie(Game& game, int sides);
 
+// Whether a logged die shows that face.
+bool LoggedDieShows(Game& game, int sides, int face);
+
+// How many of so many plain dice show 1; the count is logged, the dice are not.
+int LoggedOnes(Game& game, int dice, int sides);
+
 }  // namespace varnstride

@@ -6,6 +6,8 @@
 
 namespace varnstride {
 
+class DicePaths;
+
 class Generator {
  public:
     // Starts the sequence anew; a program that never seeds stands at 1.
@@ -19,8 +21,13 @@ class Generator {
 
     std::uint32_t State() const { return state_; }
 
+    // While paths are set the dice follow them in place of the sequence; nothing to go back to it.
+    void Follow(DicePaths* paths) { paths_ = paths; }
+    DicePaths* Paths() const { return paths_; }
+
  private:
     std::uint32_t state_ = 1;
+    DicePaths* paths_ = nullptr;
 };
 
 }  // namespace varnstride

@@ -179,7 +179,7 @@ struct RecordFields<Unit> {
 template <>
 struct RecordFields<TurnLogBlock> {
     template <typename Visit>
-    static void ForEach(Visit visit) {
+    static constexpr void ForEach(Visit visit) {
         visit("turnInProgress", &TurnLogBlock::turnInProgress, Width::Int16);
         visit("advanceDirection", &TurnLogBlock::advanceDirection, Width::Int16);
         visit("reserved", &TurnLogBlock::reserved, Width::Int16);

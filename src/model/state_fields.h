@@ -17,7 +17,7 @@ struct StateFields;
 template <>
 struct StateFields<GameState> {
     template <typename Visit>
-    static void ForEach(Visit visit) {
+    static constexpr void ForEach(Visit visit) {
         visit("turnPhase", &GameState::turnPhase);
         visit("gameMode", &GameState::gameMode);
         visit("computerPlays", &GameState::computerPlays);
@@ -107,7 +107,7 @@ struct StateFields<GameState> {
 template <>
 struct StateFields<UndoRecord> {
     template <typename Visit>
-    static void ForEach(Visit visit) {
+    static constexpr void ForEach(Visit visit) {
         visit("undoAvailable", &UndoRecord::undoAvailable);
         visit("undoKind", &UndoRecord::undoKind);
         visit("undoUnit", &UndoRecord::undoUnit);
@@ -121,7 +121,7 @@ struct StateFields<UndoRecord> {
 template <>
 struct StateFields<Census> {
     template <typename Visit>
-    static void ForEach(Visit visit) {
+    static constexpr void ForEach(Visit visit) {
         visit("enemyCount", &Census::enemyCount);
         visit("enemyLineHere", &Census::enemyLineHere);
         visit("enemyCavalryHere", &Census::enemyCavalryHere);

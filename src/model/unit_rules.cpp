@@ -79,9 +79,15 @@ void RecomputeStatus(Unit& unit) {
     }
 }
 
+void LowerStatus(Unit& unit) {
+    const UnitStatus before = unit.status;
+    RecomputeStatus(unit);
+    unit.status = std::min(unit.status, before);
+}
+
 void LoseMorale(Unit& unit, int points) {
     unit.morale = std::max(0, unit.morale - points);
-    RecomputeStatus(unit);
+    LowerStatus(unit);
 }
 
 int ComputeActionPoints(const Unit& unit, int visibility) {

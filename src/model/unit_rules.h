@@ -10,7 +10,10 @@ namespace varnstride {
 // a unit without a maxMorale.
 void RecomputeStatus(Unit& unit);
 
-// Takes points off the morale, which stops at 0, and works out the status.
+// The same after a loss: the status never rises.
+void LowerStatus(Unit& unit);
+
+// Takes points off the morale, which stops at 0, and lowers the status with it.
 void LoseMorale(Unit& unit, int points);
 
 // 0 to 2 Action Points for a turn under that visibility.

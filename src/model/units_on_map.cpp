@@ -45,13 +45,17 @@ void ShiftUnit(Game& game, UnitId id, Cell cell) {
     PlaceUnit(game, id, cell);
 }
 
-void DestroyUnit(Game& game, UnitId id) {
+void StrikeDownUnit(Game& game, UnitId id) {
     Unstand(game, id);
     Unit& unit = game.At(id);
     unit.strength = 0;
     unit.morale = 0;
     unit.status = UnitStatus::Destroyed;
-    unit.SetPlace(kNoCell);
+}
+
+void DestroyUnit(Game& game, UnitId id) {
+    StrikeDownUnit(game, id);
+    game.At(id).SetPlace(kNoCell);
 }
 
 void FreeRecord(Game& game, UnitId id) {

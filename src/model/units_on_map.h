@@ -28,6 +28,10 @@ void ReclaimSlot(Game& game, UnitId id);
 // Moves a unit to another slot, freeing the one that it held.
 void ShiftUnit(Game& game, UnitId id, Cell cell);
 
+// Strikes a unit down: strength, morale and status 0. Its slot is left to who comes next, the
+// record keeps the place where it fell until DestroyUnit. The slot's mark is left to the caller.
+void StrikeDownUnit(Game& game, UnitId id);
+
 // Takes a unit off the map for good: strength, morale, status and place 0. The slot's mark is left
 // to the caller, who may have cleared it before.
 void DestroyUnit(Game& game, UnitId id);

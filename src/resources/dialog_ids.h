@@ -5,6 +5,7 @@ namespace varnstride {
 
 constexpr int kCommandReport = 144;
 constexpr int kVictory = 149;
+constexpr int kBattleResult = 245;
 constexpr int kGameEnd = 269;
 constexpr int kScenarioOptions = 302;
 constexpr int kSetPassword = 304;
@@ -13,6 +14,7 @@ constexpr int kScenarioDescription = 316;
 constexpr int kOptions = 320;
 constexpr int kScenarioInformation = 324;
 constexpr int kRoutedUnitReport = 338;
+constexpr int kSurrenderedUnitReport = 341;
 constexpr int kFormationChange = 342;
 constexpr int kDetachFormation = 364;
 constexpr int kSpeedOfAction = 396;

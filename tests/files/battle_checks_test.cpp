@@ -135,7 +135,7 @@ const BadValue kBadValues[] = {
     {SpoilCell<&MapCell::featureTile, 256>, "map: cell (2, 1): featureTile is 256"},
     {SpoilCell<&MapCell::labelIndex, 30>, "map: cell (2, 1): labelIndex is 30, expected 0 to 29"},
     {SpoilCell<&MapCell::borderTile, 32>, "map: cell (2, 1): borderTile is 32"},
-    {[](BattleFile& f) { f.units[2][7].name.fill('x'); }, "units: army 2 unit 7: name has no end"},
+    {[](BattleFile& f) { f.units[0][1].name.fill('x'); }, "units: army 0 unit 1: name has no end"},
     {[](BattleFile& f) { f.units[2][0].strength = 1; }, "army 2 unit 0: record 0 must stay empty"},
     {SpoilUnit<&Unit::type, 0>, "units: army 0 unit 1: type is 0, expected 1 to 21"},
     {SpoilUnit<&Unit::type, 22>, "type is 22"},

@@ -83,7 +83,9 @@ void Narrator::Saved(const std::string& file, std::size_t bytes) {
 
 void Narrator::State(const Game& game, const std::vector<MapCell>& atLoad) {
     report_.State(game, atLoad);
-    out_ << '\n' << DrawTextMap(game, false) << '\n' << TextMapLegend() << '\n';
+    out_ << '\n' << DrawTextMap(game, false) << '\n';
+    if (!legendShown_) out_ << TextMapLegend() << '\n';
+    legendShown_ = true;
     Say(TellStanding(game));
 }
 

@@ -38,6 +38,7 @@ class Narrator : public BattleEvents {
     std::vector<ArmyUnits> units_;  // as the last step left them
     std::optional<Game> saved_;     // as the last save found it
     bool saving_ = false;
+    bool legendShown_ = false;
 };
 
 }  // namespace varnstride::demo

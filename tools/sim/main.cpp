@@ -28,6 +28,7 @@ int main(int argumentCount, char** arguments) {
     AddRun(app);
     AddAtlas(app);
     AddDump(app);
+    AddExplain(app);
     AddSignature(app, arguments[0]);
     try {
         app.parse(argumentCount, arguments);
