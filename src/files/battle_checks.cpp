@@ -1,7 +1,10 @@
 #include "files/battle_checks.h"
 
-#include <algorithm>
-#include <set>
+#include <cstdint>
+#include <cstring>
+#include <iterator>
+#include <utility>
+#include <vector>
 
 #include "model/tile_sheets.h"
 
@@ -23,9 +26,26 @@ struct FieldRange {
     int high;
 };
 
-template <typename Record>
-Fault FindFieldFault(const Record& record, const std::vector<FieldRange<Record>>& ranges) {
-    for (const FieldRange<Record>& range : ranges) {
+template <auto Field, typename Record>
+constexpr int NumberOf(const Record& record) {
+    return static_cast<int>(record.*Field);
+}
+
+template <const auto& kRanges, std::size_t... kIndex, typename Record>
+bool AreAllInside(const Record& record, std::index_sequence<kIndex...>) {
+    return ((kRanges[kIndex].value(record) >= kRanges[kIndex].low &&
+             kRanges[kIndex].value(record) <= kRanges[kIndex].high) &&
+            ...);
+}
+
+// A map has a hundred thousand numbers to look at: the compiler makes plain comparisons of them,
+// and the table is walked only for a record that has a fault.
+template <const auto& kRanges, typename Record>
+Fault FindFieldFault(const Record& record) {
+    if (AreAllInside<kRanges>(record, std::make_index_sequence<std::size(kRanges)>())) {
+        return std::nullopt;
+    }
+    for (const FieldRange<Record>& range : kRanges) {
         const int value = range.value(record);
         if (value < range.low || value > range.high) {
             return OutOfRange(range.name, value, range.low, range.high);
@@ -34,93 +54,76 @@ Fault FindFieldFault(const Record& record, const std::vector<FieldRange<Record>>
     return std::nullopt;
 }
 
-// The fault with the place where it was found before it.
 Fault In(const std::string& place, const Fault& fault) {
-    return fault ? Fault(place + ": " + *fault) : fault;
+    if (!fault) return std::nullopt;
+    return place + ": " + *fault;
 }
 
 template <std::size_t Count>
 bool EndsInside(const std::array<char, Count>& text) {
-    return std::find(text.begin(), text.end(), '\0') != text.end();
+    return std::memchr(text.data(), '\0', Count) != nullptr;
 }
 
 std::string CellText(Cell cell) {
     return "(" + std::to_string(cell.x) + ", " + std::to_string(cell.y) + ")";
 }
 
-const std::vector<FieldRange<MapCell>>& CellRanges() {
-    static const std::vector<FieldRange<MapCell>> ranges = {
-        {"occupant", [](const MapCell& c) { return c.occupant; }, 0, kArmyCount},
-        {"terrainTile", [](const MapCell& c) { return c.terrainTile; }, 0, kTerrainTiles - 1},
-        {"groundTile", [](const MapCell& c) { return c.groundTile; }, 0, kGroundTiles - 1},
-        {"overlayTile", [](const MapCell& c) { return c.overlayTile; }, 0, kOverlayTiles - 1},
-        {"moveMark", [](const MapCell& c) { return c.moveMark; }, 0, kLossMarks - 1},
-        {"objective", [](const MapCell& c) { return c.objective; }, 0, kObjectiveTiles - 1},
-        {"roadTile", [](const MapCell& c) { return c.roadTile; }, 0, kRoadTiles - 1},
-        {"featureTile", [](const MapCell& c) { return c.featureTile; }, 0, kFeatureTiles - 1},
-        {"labelIndex", [](const MapCell& c) { return c.labelIndex; }, 0, kLabelCount - 1},
-        {"borderTile", [](const MapCell& c) { return c.borderTile; }, 0, kBorderTiles - 1},
-    };
-    return ranges;
-}
+constexpr FieldRange<MapCell> kCellRanges[] = {
+    {"occupant", NumberOf<&MapCell::occupant>, 0, kArmyCount},
+    {"terrainTile", NumberOf<&MapCell::terrainTile>, 0, kTerrainTiles - 1},
+    {"groundTile", NumberOf<&MapCell::groundTile>, 0, kGroundTiles - 1},
+    {"overlayTile", NumberOf<&MapCell::overlayTile>, 0, kOverlayTiles - 1},
+    {"moveMark", NumberOf<&MapCell::moveMark>, 0, kLossMarks - 1},
+    {"objective", NumberOf<&MapCell::objective>, 0, kObjectiveTiles - 1},
+    {"roadTile", NumberOf<&MapCell::roadTile>, 0, kRoadTiles - 1},
+    {"featureTile", NumberOf<&MapCell::featureTile>, 0, kFeatureTiles - 1},
+    {"labelIndex", NumberOf<&MapCell::labelIndex>, 0, kLabelCount - 1},
+    {"borderTile", NumberOf<&MapCell::borderTile>, 0, kBorderTiles - 1},
+};
 
-const std::vector<FieldRange<ScenarioHeader>>& HeaderRanges() {
-    static const std::vector<FieldRange<ScenarioHeader>> ranges = {
-        {"visibility", [](const ScenarioHeader& h) { return h.visibility; }, 0, 1000},
-        {"lastTurn", [](const ScenarioHeader& h) { return h.lastTurn; }, 1, kLeftByExit - 1},
-        {"savedTurn", [](const ScenarioHeader& h) { return h.savedTurn; }, 1, kLeftByExit - 1},
-        {"firstPlayer", [](const ScenarioHeader& h) { return h.firstPlayer; }, 0, kLastPlayingArmy},
-        {"savedArmy", [](const ScenarioHeader& h) { return h.savedArmy; }, 0, kLastPlayingArmy},
-        {"passMode", [](const ScenarioHeader& h) { return h.passMode; }, 0, 2},
-        {"playByEmail", [](const ScenarioHeader& h) { return h.playByEmail; }, 0, 1},
-        {"fogNone", [](const ScenarioHeader& h) { return h.fogNone; }, 0, 1},
-        {"fogNormal", [](const ScenarioHeader& h) { return h.fogNormal; }, 0, 1},
-        {"fogExtreme", [](const ScenarioHeader& h) { return h.fogExtreme; }, 0, 1},
-        {"hardDifficulty", [](const ScenarioHeader& h) { return h.hardDifficulty; }, 0, 1},
-        {"gameEnded", [](const ScenarioHeader& h) { return h.gameEnded; }, 0, 1},
-    };
-    return ranges;
-}
+constexpr FieldRange<ScenarioHeader> kHeaderRanges[] = {
+    {"visibility", NumberOf<&ScenarioHeader::visibility>, 0, 1000},
+    {"lastTurn", NumberOf<&ScenarioHeader::lastTurn>, 1, kLeftByExit - 1},
+    {"savedTurn", NumberOf<&ScenarioHeader::savedTurn>, 1, kLeftByExit - 1},
+    {"firstPlayer", NumberOf<&ScenarioHeader::firstPlayer>, 0, kLastPlayingArmy},
+    {"savedArmy", NumberOf<&ScenarioHeader::savedArmy>, 0, kLastPlayingArmy},
+    {"passMode", NumberOf<&ScenarioHeader::passMode>, 0, 2},
+    {"playByEmail", NumberOf<&ScenarioHeader::playByEmail>, 0, 1},
+    {"fogNone", NumberOf<&ScenarioHeader::fogNone>, 0, 1},
+    {"fogNormal", NumberOf<&ScenarioHeader::fogNormal>, 0, 1},
+    {"fogExtreme", NumberOf<&ScenarioHeader::fogExtreme>, 0, 1},
+    {"hardDifficulty", NumberOf<&ScenarioHeader::hardDifficulty>, 0, 1},
+    {"gameEnded", NumberOf<&ScenarioHeader::gameEnded>, 0, 1},
+};
 
-const std::vector<FieldRange<TimeBlock>>& TimeRanges() {
-    static const std::vector<FieldRange<TimeBlock>> ranges = {
-        {"clockField", [](const TimeBlock& t) { return t.clockField; }, 0, 2400},
-        {"duskHour", [](const TimeBlock& t) { return t.duskHour; }, 0, 24},
-        {"dawnHour", [](const TimeBlock& t) { return t.dawnHour; }, 0, 24},
-        {"rainChance", [](const TimeBlock& t) { return t.rainChance; }, 0, 100},
-        {"cloudChance", [](const TimeBlock& t) { return t.cloudChance; }, 0, 100},
-        {"windSpeed", [](const TimeBlock& t) { return t.windSpeed; }, 0, 200},
-        {"fogHold", [](const TimeBlock& t) { return t.fogHold; }, 0, 2},
-    };
-    return ranges;
-}
+constexpr FieldRange<TimeBlock> kTimeRanges[] = {
+    {"clockField", NumberOf<&TimeBlock::clockField>, 0, 2400},
+    {"duskHour", NumberOf<&TimeBlock::duskHour>, 0, 24},
+    {"dawnHour", NumberOf<&TimeBlock::dawnHour>, 0, 24},
+    {"rainChance", NumberOf<&TimeBlock::rainChance>, 0, 100},
+    {"cloudChance", NumberOf<&TimeBlock::cloudChance>, 0, 100},
+    {"windSpeed", NumberOf<&TimeBlock::windSpeed>, 0, 200},
+    {"fogHold", NumberOf<&TimeBlock::fogHold>, 0, 2},
+};
 
-template <auto Field>
-int NumberOf(const Unit& unit) {
-    return static_cast<int>(unit.*Field);
-}
-
-const std::vector<FieldRange<Unit>>& UnitRanges() {
-    constexpr int kFarBeyondPlay = 1000;
-    static const std::vector<FieldRange<Unit>> ranges = {
-        {"type", NumberOf<&Unit::type>, 1, static_cast<int>(kNeverClosesUp)},
-        {"formation", NumberOf<&Unit::formation>, 0, 6},
-        {"status", NumberOf<&Unit::status>, 0, 4},
-        {"quality", NumberOf<&Unit::quality>, 1, 5},
-        {"weapon", NumberOf<&Unit::weapon>, 0, 9},
-        {"activity", NumberOf<&Unit::activity>, 0, 15},
-        {"strength", NumberOf<&Unit::strength>, 0, kFarBeyondPlay},
-        {"initialStrength", NumberOf<&Unit::initialStrength>, 0, kFarBeyondPlay},
-        {"morale", NumberOf<&Unit::morale>, 0, kFarBeyondPlay},
-        {"maxMorale", NumberOf<&Unit::maxMorale>, 0, kFarBeyondPlay},
-        {"actionPoints", NumberOf<&Unit::actionPoints>, 0, kFarBeyondPlay},
-        {"ammunition", NumberOf<&Unit::ammunition>, 0, kFarBeyondPlay},
-        {"leadership", NumberOf<&Unit::leadership>, 0, kFarBeyondPlay},
-        {"arrivalTurn", NumberOf<&Unit::arrivalTurn>, 0, kLeftByExit},
-        {"arrivalChance", NumberOf<&Unit::arrivalChance>, 0, 100},
-    };
-    return ranges;
-}
+constexpr int kFarBeyondPlay = 1000;
+constexpr FieldRange<Unit> kUnitRanges[] = {
+    {"type", NumberOf<&Unit::type>, 1, static_cast<int>(kNeverClosesUp)},
+    {"formation", NumberOf<&Unit::formation>, 0, 6},
+    {"status", NumberOf<&Unit::status>, 0, 4},
+    {"quality", NumberOf<&Unit::quality>, 0, 5},
+    {"weapon", NumberOf<&Unit::weapon>, 0, 9},
+    {"activity", NumberOf<&Unit::activity>, 0, 15},
+    {"strength", NumberOf<&Unit::strength>, 0, kFarBeyondPlay},
+    {"initialStrength", NumberOf<&Unit::initialStrength>, 0, kFarBeyondPlay},
+    {"morale", NumberOf<&Unit::morale>, 0, kFarBeyondPlay},
+    {"maxMorale", NumberOf<&Unit::maxMorale>, 0, kFarBeyondPlay},
+    {"actionPoints", NumberOf<&Unit::actionPoints>, 0, kFarBeyondPlay},
+    {"ammunition", NumberOf<&Unit::ammunition>, 0, kFarBeyondPlay},
+    {"leadership", NumberOf<&Unit::leadership>, 0, kFarBeyondPlay},
+    {"arrivalTurn", NumberOf<&Unit::arrivalTurn>, 0, kLeftByExit},
+    {"arrivalChance", NumberOf<&Unit::arrivalChance>, 0, 100},
+};
 
 Fault FindAtlasFault(const BattleFile& file, const AtlasCatalogue& atlases) {
     const Atlas* atlas = atlases.Find(file.header.mapNumber);
@@ -137,13 +140,15 @@ Fault FindAtlasFault(const BattleFile& file, const AtlasCatalogue& atlases) {
     return std::nullopt;
 }
 
+Cell CellAt(const BattleFile& file, std::size_t index) {
+    const auto width = static_cast<std::size_t>(file.mapWidth);
+    return {static_cast<int>(index % width), static_cast<int>(index / width)};
+}
+
 Fault FindCellFault(const BattleFile& file, const AtlasCatalogue&) {
     for (std::size_t index = 0; index < file.cells.size(); ++index) {
-        const auto width = static_cast<std::size_t>(file.mapWidth);
-        const Cell cell{static_cast<int>(index % width), static_cast<int>(index / width)};
-        if (const Fault fault = FindFaultOf(file.cells[index])) {
-            return In("map: cell " + CellText(cell), fault);
-        }
+        const Fault fault = FindFaultOf(file.cells[index]);
+        if (fault) return In("map: cell " + CellText(CellAt(file, index)), fault);
     }
     return std::nullopt;
 }
@@ -174,8 +179,8 @@ Fault FindTextFault(const BattleFile& file, const AtlasCatalogue&) {
 }
 
 Fault FindHeaderFault(const BattleFile& file, const AtlasCatalogue&) {
-    if (auto fault = FindFieldFault(file.header, HeaderRanges())) return In("header", fault);
-    return In("time", FindFieldFault(file.time, TimeRanges()));
+    if (const Fault fault = FindFieldFault<kHeaderRanges>(file.header)) return In("header", fault);
+    return In("time", FindFieldFault<kTimeRanges>(file.time));
 }
 
 Fault FindArmyFault(const BattleFile& file, const AtlasCatalogue&) {
@@ -198,17 +203,20 @@ Fault FindArmyFault(const BattleFile& file, const AtlasCatalogue&) {
     return std::nullopt;
 }
 
+const Unit& UnitOf(const BattleFile& file, UnitId id) {
+    return file.units[static_cast<std::size_t>(id.army)][static_cast<std::size_t>(id.index)];
+}
+
+std::string PlaceText(UnitId id) {
+    return "units: army " + std::to_string(id.army) + " unit " + std::to_string(id.index);
+}
+
 template <typename Visit>
 Fault FindInUnits(const BattleFile& file, Visit visit) {
     for (int army = 0; army < file.armyCount; ++army) {
         for (int index = 0; index < file.unitsPerArmy; ++index) {
-            const Unit& unit =
-                file.units[static_cast<std::size_t>(army)][static_cast<std::size_t>(index)];
-            const Fault fault = visit(UnitId{army, index}, unit);
-            if (fault) {
-                return "units: army " + std::to_string(army) + " unit " + std::to_string(index) +
-                       ": " + *fault;
-            }
+            const UnitId id{army, index};
+            if (const Fault fault = visit(id, UnitOf(file, id))) return In(PlaceText(id), fault);
         }
     }
     return std::nullopt;
@@ -234,58 +242,41 @@ bool IsOnMap(const BattleFile& file, const Unit& unit) {
     return unit.strength > 0 && unit.arrivalTurn <= file.header.savedTurn;
 }
 
-std::set<std::pair<int, int>> SlotsOf(const Atlas& atlas, Side side) {
-    std::set<std::pair<int, int>> slots;
-    for (const AreaRow& row : atlas.Rows()) {
-        for (Cell slot : side == Side::French ? row.frenchSlots : row.alliedSlots) {
-            slots.insert({slot.x, slot.y});
-        }
-    }
-    return slots;
-}
-
+// Whether every unit on the map holds a slot of its own, and every mark of a slot has its unit.
 class PlaceCheck {
  public:
     PlaceCheck(const BattleFile& file, const Atlas& atlas)
-        : file_(file),
-          slots_{SlotsOf(atlas, Side::French), SlotsOf(atlas, Side::Allied)},
-          held_(file.cells.size(), 0) {}
+        : file_(file), slotsOf_(file.cells.size(), 0), held_(file.cells.size(), false) {
+        for (const AreaRow& row : atlas.Rows()) {
+            for (Cell slot : row.frenchSlots)
+                slotsOf_[IndexOf(slot)] |= BitOf(Side::French);
+            for (Cell slot : row.alliedSlots)
+                slotsOf_[IndexOf(slot)] |= BitOf(Side::Allied);
+        }
+    }
 
     Fault Test(UnitId id, const Unit& unit) {
         if (unit.strength <= 0 || unit.arrivalTurn == kLeftByExit) return std::nullopt;
-        if (!IsOnGrid(unit.Place())) return "stands off the map at " + CellText(unit.Place());
+        const Cell place = unit.Place();
+        if (!IsOnGrid(place)) return "its place " + CellText(place) + " is off the map";
         if (!IsOnMap(file_, unit)) return std::nullopt;
-        const std::size_t index = IndexOf(unit.Place());
-        const bool marked = file_.cells[index].occupant == id.army + 1;
-        const bool inSlot =
-            slots_[SideOf(id.army) == Side::French ? 0 : 1].contains({unit.x, unit.y});
-        if (MayStillWait(file_, unit) && (!marked || !inSlot || held_[index] != 0)) {
-            return std::nullopt;
-        }
-        if (!inSlot) return "stands at " + CellText(unit.Place()) + ", no slot of its side";
-        if (held_[index] != 0) {
-            return "stands at " + CellText(unit.Place()) + ", where another unit stands";
-        }
-        if (!marked) {
-            return "stands at " + CellText(unit.Place()) + ", whose occupant is " +
-                   std::to_string(file_.cells[index].occupant);
-        }
-        held_[index] = 1;
-        return std::nullopt;
+        const Fault fault = FindSlotFault(id.army, place);
+        if (!fault) held_[IndexOf(place)] = true;
+        return MayStillWait(file_, unit) ? std::nullopt : fault;
     }
 
     Fault FindStrayOccupant() const {
         for (std::size_t index = 0; index < file_.cells.size(); ++index) {
-            if (file_.cells[index].occupant == 0 || held_[index] != 0) continue;
-            const auto width = static_cast<std::size_t>(file_.mapWidth);
-            const Cell cell{static_cast<int>(index % width), static_cast<int>(index / width)};
-            return "map: cell " + CellText(cell) + ": occupant is " +
-                   std::to_string(file_.cells[index].occupant) + ", but no such unit stands there";
+            const int occupant = file_.cells[index].occupant;
+            if (occupant == 0 || held_[index]) continue;
+            return "map: cell " + CellText(CellAt(file_, index)) + ": occupant is " +
+                   std::to_string(occupant) + ", but no such unit stands there";
         }
         return std::nullopt;
     }
 
  private:
+    static std::uint8_t BitOf(Side side) { return side == Side::French ? 1 : 2; }
     bool IsOnGrid(Cell cell) const {
         return cell.x >= 0 && cell.x < file_.mapWidth && cell.y >= 0 && cell.y < file_.mapHeight;
     }
@@ -293,20 +284,34 @@ class PlaceCheck {
         return static_cast<std::size_t>(cell.y) * static_cast<std::size_t>(file_.mapWidth) +
                static_cast<std::size_t>(cell.x);
     }
+    Fault FindSlotFault(int army, Cell place) const {
+        const std::size_t index = IndexOf(place);
+        if ((slotsOf_[index] & BitOf(SideOf(army))) == 0) {
+            return "stands at " + CellText(place) + ", no slot of its side";
+        }
+        if (held_[index]) return "stands at " + CellText(place) + ", where another unit stands";
+        const int occupant = file_.cells[index].occupant;
+        if (occupant == army + 1) return std::nullopt;
+        return "stands at " + CellText(place) + ", whose occupant is " + std::to_string(occupant);
+    }
 
     const BattleFile& file_;
-    std::array<std::set<std::pair<int, int>>, 2> slots_;
-    std::vector<int> held_;
+    std::vector<std::uint8_t> slotsOf_;  // by cell: the sides that have a slot there
+    std::vector<bool> held_;             // by cell: whether a unit stands there
 };
 
 // Units that have stood for longer come before those due this turn, which may be waiting.
 Fault FindPlaceFault(const BattleFile& file, const AtlasCatalogue& atlases) {
     PlaceCheck check(file, *atlases.Find(file.header.mapNumber));
-    for (const bool due : {false, true}) {
-        const Fault fault = FindInUnits(file, [&](UnitId id, const Unit& unit) -> Fault {
-            return MayStillWait(file, unit) == due ? check.Test(id, unit) : std::nullopt;
-        });
-        if (fault) return fault;
+    std::vector<UnitId> due;
+    const Fault fault = FindInUnits(file, [&](UnitId id, const Unit& unit) -> Fault {
+        if (!MayStillWait(file, unit)) return check.Test(id, unit);
+        due.push_back(id);
+        return std::nullopt;
+    });
+    if (fault) return fault;
+    for (UnitId id : due) {
+        if (auto late = check.Test(id, UnitOf(file, id))) return In(PlaceText(id), late);
     }
     return check.FindStrayOccupant();
 }
@@ -314,13 +319,13 @@ Fault FindPlaceFault(const BattleFile& file, const AtlasCatalogue& atlases) {
 }  // namespace
 
 Fault FindFaultOf(const MapCell& cell) {
-    return FindFieldFault(cell, CellRanges());
+    return FindFieldFault<kCellRanges>(cell);
 }
 
 Fault FindFaultOf(const Unit& unit) {
-    if (!EndsInside(unit.name)) return "name has no end";
     if (!IsUsed(unit)) return std::nullopt;
-    if (const Fault fault = FindFieldFault(unit, UnitRanges())) return fault;
+    if (!EndsInside(unit.name)) return "name has no end";
+    if (const Fault fault = FindFieldFault<kUnitRanges>(unit)) return fault;
     if (unit.strength > 0 && unit.maxMorale == 0) return "maxMorale is 0";
     return std::nullopt;
 }

@@ -5,6 +5,15 @@
 namespace varnstride {
 namespace {
 
+// Units that the older layout left as they stood may have stood on a larger map.
+void RemoveUnitsOffTheGrid(Game& game) {
+    for (ArmyUnits& army : game.units) {
+        for (Unit& unit : army) {
+            if (!game.grid.Holds(unit.Place())) unit = {};
+        }
+    }
+}
+
 // The older layout holds fewer armies and records; what it does not hold stays as it stands.
 void PutOlderUnits(const BattleFile& file, Game& game) {
     for (int army = 0; army < file.armyCount; ++army) {
@@ -41,6 +50,7 @@ void PutIntoGame(const BattleFile& file, FileKind kind, Game& game) {
     game.briefings = file.briefings;
     if (file.IsOlderLayout()) {
         PutOlderUnits(file, game);
+        RemoveUnitsOffTheGrid(game);
     } else {
         game.units = file.units;
     }

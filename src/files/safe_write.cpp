@@ -52,17 +52,29 @@ void FlushFolderOf(const std::string& path) {
     if (opened.IsOpen()) ::fsync(opened.Get());
 }
 
-// A new file keeps the rights that any new file of the player would get.
-mode_t UsualRights() {
+// Those of the file that is replaced, or those that any new file of the player would get.
+mode_t RightsFor(const std::string& path) {
+    struct stat old {};
+    if (::stat(path.c_str(), &old) == 0) return old.st_mode & 0777;
     const mode_t mask = ::umask(0);
     ::umask(mask);
     return 0666 & ~mask;
 }
 
+// A folder and a file that the player may not write could be renamed over all the same, and must
+// not be. 0 when nothing stands in the way.
+int WhyKept(const std::string& path) {
+    struct stat old {};
+    if (::stat(path.c_str(), &old) != 0) return errno == ENOENT ? 0 : errno;
+    if (S_ISDIR(old.st_mode)) return EISDIR;
+    if (!S_ISREG(old.st_mode)) return EINVAL;
+    return ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0 ? 0 : errno;
+}
+
 }  // namespace
 
 Result<std::vector<std::byte>> ReadWholeFile(const std::string& path) {
-    OpenFile file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    OpenFile file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (!file.IsOpen()) return SystemFailure(path, "cannot be opened", errno);
     struct stat status {};
     if (::fstat(file.Get(), &status) != 0) return SystemFailure(path, "cannot be read", errno);
@@ -85,15 +97,13 @@ Result<std::vector<std::byte>> ReadWholeFile(const std::string& path) {
 }
 
 Result<Done> WriteSafely(const std::string& path, std::span<const std::byte> bytes) {
-    if (std::filesystem::is_directory(path)) {
-        return Failure{path + ": cannot be written: it is a folder"};
-    }
+    if (const int reason = WhyKept(path)) return SystemFailure(path, "cannot be written", reason);
     std::string beside = path + ".XXXXXX";
-    OpenFile file(::mkstemp(beside.data()));
+    OpenFile file(::mkostemp(beside.data(), O_CLOEXEC));
     if (!file.IsOpen()) return SystemFailure(path, "cannot be written", errno);
-    const bool written = WriteAll(file.Get(), bytes) && ::fchmod(file.Get(), UsualRights()) == 0 &&
-                         ::fsync(file.Get()) == 0 && file.Close() &&
-                         ::rename(beside.c_str(), path.c_str()) == 0;
+    const bool written = WriteAll(file.Get(), bytes) &&
+                         ::fchmod(file.Get(), RightsFor(path)) == 0 && ::fsync(file.Get()) == 0 &&
+                         file.Close() && ::rename(beside.c_str(), path.c_str()) == 0;
     if (!written) {
         const int reason = errno;
         ::unlink(beside.c_str());

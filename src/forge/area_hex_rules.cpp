@@ -65,9 +65,10 @@ struct Patch {
 std::vector<Patch> PatchesOf(const GroundCheck& check) {
     std::vector<bool> seen(check.file.cells.size());
     const auto see = [&](Cell cell) {
-        const auto index = static_cast<std::size_t>(cell.y * check.file.mapWidth + cell.x);
-        const bool isNew = !seen[index];
-        seen[index] = true;
+        const int index = cell.y * check.file.mapWidth + cell.x;
+        const auto place = static_cast<std::size_t>(index);
+        const bool isNew = !seen[place];
+        seen[place] = true;
         return isNew;
     };
     std::vector<Patch> patches;

@@ -83,8 +83,9 @@ std::string AtlasesAsCode(std::span<const AtlasSource> atlases) {
         "    static const AtlasCatalogue kCatalogue({\n";
     for (const AtlasSource* atlas : byNumber) {
         const std::string number = std::to_string(atlas->mapNumber);
-        text += "        Atlas(" + number + ", List(kAreas" + number + "), List(kLinks" + number +
-                ")),\n";
+        text.append("        Atlas(").append(number);
+        text.append(", List(kAreas").append(number);
+        text.append("), List(kLinks").append(number).append(")),\n");
     }
     return text + "    });\n    return kCatalogue;\n}\n\n}  // namespace varnstride\n";
 }

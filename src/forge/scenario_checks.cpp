@@ -35,11 +35,11 @@ class UnitChecks {
         if (written != nullptr && !written->isSound) return;
         const int line = written != nullptr ? written->line : 0;
         const bool strict = build_.rules == ScenarioRules::Strict && written != nullptr;
-        if (strict) CheckAsWritten(id, unit, line);
+        if (strict) CheckAsWritten(unit, line);
         if (const auto fault = FindFaultOf(unit); fault && !(strict && LacksColumns(unit))) {
             build_.errors.Add(line, NameOf(unit) + ": " + *fault);
         }
-        if (unit.strength <= 0 || slots_.empty()) return;
+        if (unit.strength <= 0 || slots_.empty() || (strict && unit.Place() == kNoCell)) return;
         if (StandsAtStart(build_.file, unit)) {
             CheckSlot(id, unit, line);
         } else if (strict && grid_.AreaOf(unit.Place()) == 0) {
@@ -53,7 +53,7 @@ class UnitChecks {
         return unit.type == UnitType::None || unit.quality == Quality::None || unit.maxMorale == 0;
     }
 
-    void CheckAsWritten(UnitId id, const Unit& unit, int line) const {
+    void CheckAsWritten(const Unit& unit, int line) const {
         const auto need = [&](bool given, const std::string& column) {
             if (given) return;
             build_.errors.Add(line,
@@ -64,11 +64,7 @@ class UnitChecks {
         need(unit.strength > 0, "strength");
         need(unit.quality != Quality::None, "quality");
         need(unit.maxMorale > 0, "morale");
-        if (build_.file.armies[static_cast<std::size_t>(id.army)].present == 0) {
-            build_.errors.Add(line, NameOf(unit) +
-                                        " belongs to an army that [armies] does not "
-                                        "name: expected an army with Command Points");
-        }
+        need(unit.Place() != kNoCell, "at");
     }
 
     void CheckSlot(UnitId id, const Unit& unit, int line) {

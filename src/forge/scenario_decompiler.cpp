@@ -12,10 +12,10 @@
 namespace varnstride {
 namespace {
 
-std::string SourceWithoutOverrides(const BattleFile& file, ScenarioRules rules) {
-    return WriteBattle(file, rules) + WriteDescription(file) + WriteMaps(file) + WriteRoads(file) +
-           WriteLabels(file) + WriteObjectives(file) + WriteArmies(file) + WriteBriefings(file) +
-           WriteUnits(file);
+// All but [battle], as far as the sections can tell it.
+std::string SectionsOf(const BattleFile& file) {
+    return WriteDescription(file) + WriteMaps(file) + WriteRoads(file) + WriteLabels(file) +
+           WriteObjectives(file) + WriteArmies(file) + WriteBriefings(file) + WriteUnits(file);
 }
 
 std::string OverrideText(const Overrides& overrides) {
@@ -28,26 +28,32 @@ std::string OverrideText(const Overrides& overrides) {
 // An override can change what is worked out from it, an area number the borders around it, so the
 // source is compiled and completed until nothing is left to say. What is said once stays, so that
 // this comes to an end.
-std::string Decompiled(const BattleFile& file, const AtlasCatalogue& atlases, ScenarioRules rules) {
-    const std::string plain = SourceWithoutOverrides(file, rules);
+std::string WithOverrides(const BattleFile& file, const AtlasCatalogue& atlases) {
+    const std::string battle = WriteBattle(file, ScenarioRules::Strict);
+    const std::string sections = SectionsOf(file);
     Overrides said;
     for (;;) {
-        const std::string text = plain + OverrideText(said);
-        const Overrides left = OverridesBetween(AssembleScenario(text, atlases), file);
+        const std::string text = sections + OverrideText(said);
+        const Overrides left = OverridesBetween(AssembleScenario(battle + text, atlases), file);
         if (left.AreEmpty()) return text;
         said.cells += left.cells;
         said.fields += left.fields;
     }
 }
 
+bool KeepsStrictRules(const std::string& text, const AtlasCatalogue& atlases) {
+    SourceErrors breaches("");
+    std::vector<std::string> warnings;
+    return CompileScenario(text, atlases, breaches, warnings).has_value();
+}
+
 }  // namespace
 
 std::string DecompileScenario(const BattleFile& file, const AtlasCatalogue& atlases) {
-    const std::string strict = Decompiled(file, atlases, ScenarioRules::Strict);
-    SourceErrors breaches("");
-    std::vector<std::string> warnings;
-    if (CompileScenario(strict, atlases, breaches, warnings)) return strict;
-    return Decompiled(file, atlases, ScenarioRules::Loose);
+    const std::string text = WithOverrides(file, atlases);
+    const std::string strict = WriteBattle(file, ScenarioRules::Strict) + text;
+    if (KeepsStrictRules(strict, atlases)) return strict;
+    return WriteBattle(file, ScenarioRules::Loose) + text;
 }
 
 }  // namespace varnstride

@@ -13,8 +13,9 @@ namespace {
 
 constexpr int kMasks = 64;  // pictures of one kind of road
 
+// A picture of a road on a lake is none that a source could draw.
 bool IsRoad(const MapCell& cell) {
-    return cell.featureTile > kPavedRoad && cell.featureTile < kStream;
+    return cell.featureTile > kPavedRoad && cell.featureTile < kStream && !IsLake(cell);
 }
 
 bool IsTrack(const MapCell& cell) {

@@ -20,10 +20,6 @@ bool IsRiver(const MapCell& cell) {
     return cell.terrainTile >= kFirstRiverTile && cell.terrainTile <= kLastRiverTile;
 }
 
-bool IsLake(const MapCell& cell) {
-    return cell.terrainTile == kLakeTile;
-}
-
 // The ways in which a bridge can run, by the two sides that it joins.
 struct BridgeWay {
     int roadTile;
@@ -157,6 +153,10 @@ void RoadNet::Put() {
 
 bool IsStreamOrRiver(const MapCell& cell) {
     return cell.terrainTile == kStreamTile || IsRiver(cell);
+}
+
+bool IsLake(const MapCell& cell) {
+    return cell.terrainTile == kLakeTile;
 }
 
 unsigned BridgeSides(const MapCell& cell) {

@@ -18,6 +18,7 @@ void ReadRoads(const ScenarioText& text, ScenarioBuild& build);
 std::string WriteRoads(const BattleFile& file);
 
 bool IsStreamOrRiver(const MapCell& cell);
+bool IsLake(const MapCell& cell);
 
 // The sides through which a road crosses a bridge; none for a cell without one.
 unsigned BridgeSides(const MapCell& cell);

@@ -104,6 +104,14 @@ std::optional<int> UnitTable::IndexOf(std::string_view text, int line) {
     return std::nullopt;
 }
 
+void CheckArmy(const ScenarioText& text, const Section& section, const ScenarioBuild& build) {
+    const bool named = build.file.armies[static_cast<std::size_t>(section.army)].present != 0;
+    if (named || text.Find(SectionKind::Armies) == nullptr) return;
+    build.errors.Add(section.line, "[armies] does not name the army " +
+                                       std::string(WordOf(kArmyWords, section.army)) +
+                                       ": expected it there with its Command Points");
+}
+
 using TableText = std::vector<std::vector<std::string>>;
 
 std::string Aligned(const TableText& table) {
@@ -137,7 +145,9 @@ TableText TableOf(const ArmyUnits& units, const ScenarioBuild& build) {
 
 void ReadUnits(const ScenarioText& text, ScenarioBuild& build) {
     for (const Section& section : text.Sections()) {
-        if (section.kind == SectionKind::Units) UnitTable(section, build).Read();
+        if (section.kind != SectionKind::Units) continue;
+        if (build.rules == ScenarioRules::Strict) CheckArmy(text, section, build);
+        UnitTable(section, build).Read();
     }
 }
 

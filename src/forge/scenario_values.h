@@ -55,20 +55,28 @@ requires(std::is_enum_v<Value> || std::is_integral_v<Value>) std::string WriteVa
     return std::to_string(static_cast<int>(value));
 }
 
+// The names of a record's fields for messages, "x, y, reservedA ...".
+template <typename Record>
+std::string FieldNames() {
+    std::string names;
+    RecordFields<Record>::ForEach([&](std::string_view field, auto...) {
+        names += (names.empty() ? "" : ", ") + std::string(field);
+    });
+    return names;
+}
+
 // Sets a field by its name; gives what is wrong, empty when nothing is.
 template <typename Record>
 std::string SetField(Record& record, std::string_view name, std::string_view text) {
     bool known = false;
     std::string wrong;
-    std::string names;
     RecordFields<Record>::ForEach([&](std::string_view field, auto member, auto... width) {
-        names += (names.empty() ? "" : ", ") + std::string(field);
         if (field != name) return;
         known = true;
         wrong = ReadValue(text, record.*member, width...);
     });
     if (known) return wrong;
-    return "unknown field \"" + std::string(name) + "\": expected one of " + names;
+    return "unknown field \"" + std::string(name) + "\": expected one of " + FieldNames<Record>();
 }
 
 // Calls visit(name, value as text) for each field in which the wanted record differs.

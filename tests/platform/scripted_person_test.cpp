@@ -5,6 +5,8 @@
 
 #include <sstream>
 
+#include "platform/headless/event_writer.h"
+
 namespace varnstride {
 namespace {
 

@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "files/battle_file.h"
+#include "platform/headless/event_writer.h"
 #include "platform/headless/script_run.h"
 #include "support/field.h"
 
@@ -71,7 +72,8 @@ std::string TinyBattle::Play(const std::string& text) const {
     const Result<Script> script = ParseScript(text, "tiny.script");
     if (!script.Ok()) return script.Message();
     std::ostringstream events;
-    const Result<Done> played = RunScript(script.Get(), catalogue, events);
+    EventWriter writer(events);
+    const Result<Done> played = RunScript(script.Get(), catalogue, writer);
     return played.Ok() ? events.str() : events.str() + played.Message();
 }
 

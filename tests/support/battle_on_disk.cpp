@@ -9,6 +9,7 @@
 #include <type_traits>
 
 #include "model/state_fields.h"
+#include "support/synthetic_battle.h"
 
 namespace varnstride {
 namespace {
@@ -36,13 +37,7 @@ BattleOnDisk::BattleOnDisk()
       folder_(testing::TempDir() + "varnstride-" + std::to_string(getpid()) + "-" +
               testing::UnitTest::GetInstance()->current_test_info()->name()) {
     std::filesystem::create_directories(folder_);
-    Game& game = Content();
-    game.header.firstPlayer = game.header.savedArmy = kFrench;
-    game.header.savedTurn = 1;
-    game.header.lastTurn = 9;
-    game.header.visibility = 20;
-    game.time = {.clockField = 930, .duskHour = 21, .dawnHour = 4};
-    game.turnLog.advanceDirection = 1;
+    MakeSavable(Content());
     field_.Add(kFrench, 1, 1, MakeUnit(UnitType::LineInfantry));
     field_.Add(kPrussian, 2, 1, MakeUnit(UnitType::LineInfantry));
 }

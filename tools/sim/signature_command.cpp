@@ -1,6 +1,7 @@
 // varnstride-sim signature: plays a fixed set of battles, orders and answers drawn from fixed
 // seeds, and boils all their positions down to one number. It changes when any rule does.
 #include <algorithm>
+#include <array>
 #include <iomanip>
 #include <iostream>
 #include <memory>
@@ -20,17 +21,17 @@ constexpr unsigned kFirstSeed = 1815;
 constexpr unsigned kGames = 3;  // of each scenario
 constexpr int kSteps = 600;     // inputs and passes of a game
 
-// The scenarios of an installed game, beside the program, or in the data folder of its build.
+// Where scenarios stand, seen from the folder of the program: installed, in a build, beside it.
+constexpr std::array kFolders = {"../share/varnstride/Scenarios", "../data/Scenarios", "Scenarios"};
+
 fs::path ScenarioFolder(const fs::path& program) {
     std::error_code error;
     const fs::path self = fs::read_symlink("/proc/self/exe", error);
-    const fs::path folder = (error ? fs::absolute(program) : self).parent_path();
-    const fs::path beside = folder / "Scenarios";
-    for (const fs::path& found : {folder.parent_path() / "share" / "varnstride" / "Scenarios",
-                                  folder.parent_path() / "data" / "Scenarios"}) {
-        if (fs::is_directory(found, error)) return found;
+    const fs::path home = (error ? fs::absolute(program) : self).parent_path();
+    for (const char* folder : kFolders) {
+        if (fs::is_directory(home / folder, error)) return (home / folder).lexically_normal();
     }
-    return beside;
+    throw Refusal("no folder of scenarios beside " + home.string() + "; name one by --scenarios");
 }
 
 std::vector<fs::path> ScenariosOf(const fs::path& folder) {

@@ -34,7 +34,7 @@ constexpr int kPanel = 9;
 constexpr int kKey = 5;
 constexpr int kCard = 1;
 constexpr int kClock = 1;
-constexpr int kEnd = 2;
+constexpr int kEnd = 4;
 
 }  // namespace
 

@@ -102,11 +102,17 @@ Json ChangedCells(const std::vector<MapCell>& now, const std::vector<MapCell>& w
     return list;
 }
 
-// The log without the zeros at its end.
+// The roll log without the zeros at its end.
 Json UsedRollLog(const TurnLogBlock& turnLog) {
     const auto used = std::find_if(turnLog.rollLog.rbegin(), turnLog.rollLog.rend(),
                                    [](std::int16_t entry) { return entry != 0; });
     return std::vector<int>(turnLog.rollLog.begin(), used.base());
+}
+
+Json TurnLogAsJson(const TurnLogBlock& turnLog) {
+    Json object = RecordAsJson(turnLog);
+    object["rollLog"] = UsedRollLog(turnLog);
+    return object;
 }
 
 }  // namespace
@@ -133,10 +139,7 @@ Json FileAsJson(const BattleFile& file) {
             {"time", RecordAsJson(file.time)},
             {"loss", RecordAsJson(file.loss)},
             {"options", RecordAsJson(file.options)},
-            {"turnLog",
-             {{"turnInProgress", file.turnLog.turnInProgress},
-              {"advanceDirection", file.turnLog.advanceDirection},
-              {"rollLog", UsedRollLog(file.turnLog)}}},
+            {"turnLog", TurnLogAsJson(file.turnLog)},
             {"armies", RecordsAsJson(file.armies)},
             {"briefings", RecordsAsJson(file.briefings)},
             {"labels", RecordsAsJson(file.labels)},
