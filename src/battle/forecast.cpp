@@ -17,7 +17,7 @@
 namespace varnstride {
 namespace {
 
-bool operator<(const StrikeTerm& one, const StrikeTerm& other) {
+bool TermComesFirst(const StrikeTerm& one, const StrikeTerm& other) {
     return std::tie(one.kind, one.name, one.amount) <
            std::tie(other.kind, other.name, other.amount);
 }
@@ -25,9 +25,8 @@ bool operator<(const StrikeTerm& one, const StrikeTerm& other) {
 struct ByReckoning {
     bool operator()(const Reckoning& one, const Reckoning& other) const {
         if (one.strike != other.strike) return one.strike < other.strike;
-        return std::lexicographical_compare(
-            one.terms.begin(), one.terms.end(), other.terms.begin(), other.terms.end(),
-            [](const StrikeTerm& a, const StrikeTerm& b) { return a < b; });
+        return std::lexicographical_compare(one.terms.begin(), one.terms.end(), other.terms.begin(),
+                                            other.terms.end(), TermComesFirst);
     }
 };
 
@@ -73,6 +72,7 @@ class Tally {
     template <typename Case, typename Order>
     static std::vector<Chance<Case>> Listed(const std::map<Case, double, Order>& cases) {
         std::vector<Chance<Case>> list;
+        list.reserve(cases.size());
         for (const auto& [what, probability] : cases)
             list.push_back({what, probability});
         std::stable_sort(list.begin(), list.end(), [](const auto& one, const auto& other) {

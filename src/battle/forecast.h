@@ -4,6 +4,7 @@
 #pragma once
 
 #include <optional>
+#include <tuple>
 #include <vector>
 
 #include "model/game.h"
@@ -29,14 +30,21 @@ struct SideOutcome {
     int morale = 0;  // left
     UnitStatus status = UnitStatus::Destroyed;
 
-    friend auto operator<=>(const SideOutcome&, const SideOutcome&) = default;
+    friend bool operator==(const SideOutcome&, const SideOutcome&) = default;
+    friend bool operator<(const SideOutcome& one, const SideOutcome& other) {
+        return std::tie(one.strengthLost, one.morale, one.status) <
+               std::tie(other.strengthLost, other.morale, other.status);
+    }
 };
 
 struct AttackOutcome {
     SideOutcome target;
     SideOutcome attacker;
 
-    friend auto operator<=>(const AttackOutcome&, const AttackOutcome&) = default;
+    friend bool operator==(const AttackOutcome&, const AttackOutcome&) = default;
+    friend bool operator<(const AttackOutcome& one, const AttackOutcome& other) {
+        return std::tie(one.target, one.attacker) < std::tie(other.target, other.attacker);
+    }
 };
 
 // A strike as it is reckoned in some of the cases; not made at all in the rest.
