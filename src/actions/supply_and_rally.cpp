@@ -52,15 +52,16 @@ void ShowUnitRestored(Game& game) {
     game.person->Redraw(View::Map);
 }
 
-void TakeOrderAgain(Game& game, Unit& unit) {
+}  // namespace
+
+void TakeOrderAgain(Game& game) {
+    Unit& unit = game.InHand();
     game.state.selectedCell = unit.Place();
     SelectArea(game);
     if (CountBuiltUpSlots(game) >= 2) return;
     if (IsFoot(unit.type)) unit.formation = Formation::Line;
     if (IsMountedOrMortar(unit.type)) unit.formation = Formation::AttackColumn;
 }
-
-}  // namespace
 
 bool ResupplyUnit(Game& game) {
     Unit& unit = game.InHand();
@@ -111,7 +112,7 @@ void RallyRouted(Game& game) {
     if (fullMorale * throwOfNerve > 1) {
         unit.morale = ShareOf(unit.maxMorale, kRalliedFromRouted);
         unit.status = UnitStatus::Shaken;
-        TakeOrderAgain(game, unit);
+        TakeOrderAgain(game);
         ShowUnitRestored(game);
         ShowCourier(game, 269);
     } else {

@@ -15,4 +15,8 @@ void RallyShaken(Game& game);
 // Throws for the unit in hand, which is routed.
 void RallyRouted(Game& game);
 
+// The unit in hand takes order again, foot in Line and horse in Attack Column, unless its area is
+// built up.
+void TakeOrderAgain(Game& game);
+
 }  // namespace varnstride

@@ -73,6 +73,7 @@ void RallyAndReform(Game& game) {
 void LeaveMap(Game& game) {
     if (!HasCommandPoints(game) || !IsTurnOpen(game)) return;
     if (!RemoveFromMap(game)) return;
+    game.state.currentUnit = game.state.selectedSlot = 0;
     ShowUnitPanels(game);
     DrawTopBar(game);
     game.person->Redraw(View::Map);

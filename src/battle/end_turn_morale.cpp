@@ -2,6 +2,7 @@
 
 #include "actions/courier.h"
 #include "actions/losses.h"
+#include "actions/supply_and_rally.h"
 #include "actions/top_bar.h"
 #include "battle/loss_notice.h"
 #include "battle/morale.h"
@@ -9,7 +10,6 @@
 #include "model/census.h"
 #include "model/dice.h"
 #include "model/reach.h"
-#include "model/terrain.h"
 #include "model/unit_rules.h"
 #include "model/units_on_map.h"
 #include "resources/dialog_ids.h"
@@ -51,15 +51,6 @@ void TellOfRout(Game& game) {
     Highlight(game, cell, 0);
 }
 
-void ReformByGround(Game& game) {
-    Unit& unit = game.InHand();
-    game.state.selectedCell = unit.Place();
-    SelectArea(game);
-    if (CountBuiltUpSlots(game) >= 2) return;
-    if (IsFoot(unit.type)) unit.formation = Formation::Line;
-    if (IsMountedOrMortar(unit.type)) unit.formation = Formation::AttackColumn;
-}
-
 void RaiseStatusByMorale(Unit& unit) {
     if (unit.maxMorale == 0) return;
     const int percent = unit.morale * 100 / unit.maxMorale;
@@ -74,7 +65,7 @@ void RecoverShaken(Game& game) {
         return;
     }
     RaiseStatusByMorale(unit);
-    ReformByGround(game);
+    TakeOrderAgain(game);
 }
 
 void Rest(const Game& game, Unit& unit) {

@@ -41,8 +41,8 @@ bool HasPointsToOrder(Game& game) {
 }
 
 bool TargetIsLegal(const Game& game) {
-    return game.state.selectedSlot > 0 && game.grid.IsLit(game.state.targetCell) &&
-           game.InHand().outOfCommand == 0;
+    return game.state.selectedSlot > 0 && IsOnMap(game, game.InHandId()) &&
+           game.grid.IsLit(game.state.targetCell) && game.InHand().outOfCommand == 0;
 }
 
 // What a player must hear before anything is ordered; whether the order goes on.

@@ -41,7 +41,7 @@ class DamagedFile : public testing::Test {
     }
     void Flip(std::size_t at) {
         const std::byte right = bytes_[at];
-        for (const int wrong : {0x01, 0x80, 0xFF}) {
+        for (const int wrong : {0x01, 0xFF}) {
             bytes_[at] = right ^ static_cast<std::byte>(wrong);
             ExpectRefusedOrFaithful(bytes_, at);
         }
@@ -66,7 +66,7 @@ TEST_F(DamagedFile, ACutFileIsRefusedWhereverItEnds) {
             ExpectRefusedWhenCutTo(bound + 1);
         }
     }
-    for (std::size_t length = 0; length < bytes_.size(); length += 997) {
+    for (std::size_t length = 0; length < bytes_.size(); length += 4999) {
         ExpectRefusedWhenCutTo(length);
     }
 }
@@ -91,14 +91,14 @@ TEST_F(DamagedFile, AFlippedByteIsRefusedOrKept) {
         Flip(at);
     for (std::size_t at = layout_.TurnLog(); at < layout_.TurnLog() + 8; ++at)
         Flip(at);
-    for (std::size_t at = 0; at < bytes_.size(); at += 1501)
+    for (std::size_t at = 0; at < bytes_.size(); at += 3001)
         Flip(at);
 }
 
 TEST_F(DamagedFile, AFlippedByteOfTheOlderLayoutIsRefusedOrCanBeSaved) {
     std::vector<std::byte> older = InOlderLayout(bytes_, layout_, 4, 3);
     ASSERT_TRUE(Parse(older).Ok());
-    for (std::size_t at = 0; at < older.size(); at += 7) {
+    for (std::size_t at = 0; at < older.size(); at += 29) {
         const std::byte right = older[at];
         older[at] ^= std::byte{0xFF};
         const auto result = Parse(older);

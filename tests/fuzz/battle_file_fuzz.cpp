@@ -3,6 +3,7 @@
 // of changes to a sound file, five bytes each: what to do, where (three bytes), the value.
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
 #include <span>
 #include <vector>
 
@@ -58,28 +59,39 @@ void Expect(bool holds) {
     if (!holds) std::abort();
 }
 
-void Save(const BattleFile& file, const AtlasCatalogue& atlases) {
+bool AreSame(const std::vector<std::byte>& left, const std::vector<std::byte>& right) {
+    return left.size() == right.size() && std::memcmp(left.data(), right.data(), left.size()) == 0;
+}
+
+// A battle of the present layout comes out as it went in, one of the older can be read again.
+void PlayAndSave(const BattleFile& file, const std::vector<std::byte>& bytes,
+                 const AtlasCatalogue& atlases) {
     SilentPerson person;
     Game game(atlases, person);
     PutIntoGame(file, FileKind::Battle, game);
     const std::vector<std::byte> saved = SerializeBattleFile(TakeFromGame(game));
-    const auto again = ParseBattleFile(saved, "saved", atlases);
-    Expect(file.IsOlderLayout() || again.Ok());
-    if (again.Ok()) Expect(SerializeBattleFile(again.Get()) == saved);
+    if (file.IsOlderLayout()) {
+        Expect(ParseBattleFile(saved, "saved", atlases).Ok());
+    } else {
+        Expect(AreSame(saved, bytes));
+    }
 }
 
+// The first byte says which file is changed, and whether a sound one is taken into a game, which
+// takes a hundred times as long as finding a fault.
 void Try(std::span<const std::uint8_t> input) {
     static const SoundFiles sound;
     if (input.empty()) return;
-    std::vector<std::byte> bytes = input[0] % 4 == 0 ? sound.Present() : sound.Older();
+    const bool present = input[0] % 16 == 0;
+    const bool saved = input[0] / 16 % 8 == 0;
+    std::vector<std::byte> bytes = present ? sound.Present() : sound.Older();
     for (std::size_t at = 1; at + kChangeSize <= input.size(); at += kChangeSize)
         Change(bytes, input.subspan(at, kChangeSize));
     const auto parsed = ParseBattleFile(bytes, "fuzz", sound.Atlases());
     if (!parsed.Ok()) {
         Expect(parsed.Message().starts_with("fuzz: "));
-    } else {
-        Save(parsed.Get(), sound.Atlases());
-        Expect(parsed.Get().IsOlderLayout() || SerializeBattleFile(parsed.Get()) == bytes);
+    } else if (saved) {
+        PlayAndSave(parsed.Get(), bytes, sound.Atlases());
     }
 }
 

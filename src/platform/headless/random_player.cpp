@@ -23,10 +23,14 @@ constexpr std::array kCommands = {
 // Those that order something; asked for as often as all the others together.
 constexpr std::size_t kOrders = 20;
 
-constexpr int kTriesForLitSlot = 30;
+constexpr int kTriesForTarget = 40;
 constexpr int kTriesForUnit = 50;
 
-// How often, in percent, an input is of a kind; the rest are commands of the menus.
+// What follows from a click on units, in percent.
+constexpr int kChooseAmongSeveral = 60;
+constexpr int kUseUnitInHand = 30;
+
+// How often, in percent, any other input is of a kind; the rest are commands of the menus.
 constexpr int kSelect = 34;
 constexpr int kMove = 30;
 constexpr int kStray = 8;
@@ -84,10 +88,15 @@ void RandomPlayer::Note(const std::string& line) {
 }
 
 BattleInput RandomPlayer::ThinkOfSomething() {
+    const bool mayChoose = game_.state.ownSlotsFilled > 1 && game_.state.selectedSlot == 0;
+    if (mayChoose && dice_.Chance(kChooseAmongSeveral)) return ClickPanel{1 + dice_.Throw(3)};
+    if (game_.state.selectedSlot > 0 && dice_.Chance(kUseUnitInHand)) {
+        return ClickMap{Target(), false};
+    }
     int roll = dice_.Throw(100);
     const auto falls = [&roll](int share) { return (roll -= share) < 0; };
     if (falls(kSelect)) return ClickMap{OwnUnitCell(), true};
-    if (falls(kMove)) return ClickMap{LitSlotCell(), false};
+    if (falls(kMove)) return ClickMap{Target(), false};
     if (falls(kStray)) return ClickMap{AnyCell(), dice_.Chance(50)};
     if (falls(kPanel)) return ClickPanel{1 + dice_.Throw(3)};
     if (falls(kKey)) return PressKey{static_cast<Key>(dice_.Throw(static_cast<int>(Key::F2) + 1))};
@@ -99,8 +108,21 @@ BattleInput RandomPlayer::ThinkOfSomething() {
 }
 
 Cell RandomPlayer::OwnUnitCell() {
+    return UnitCell(game_.state.currentArmy);
+}
+
+Cell RandomPlayer::EnemyUnitCell() {
+    if (game_.OwnSide() == Side::Allied) return UnitCell(kFrench);
+    int army = kBritish;
+    for (int tries = 0; tries < kTriesForUnit && game_.Army(army).present == 0; ++tries) {
+        army = kBritish + dice_.Throw(kLastPlayingArmy);
+    }
+    return UnitCell(army);
+}
+
+Cell RandomPlayer::UnitCell(int army) {
     for (int tries = 0; tries < kTriesForUnit; ++tries) {
-        const UnitId id{game_.state.currentArmy, 1 + dice_.Throw(game_.state.unitLimit - 1)};
+        const UnitId id{army, 1 + dice_.Throw(game_.state.unitLimit - 1)};
         if (IsOnMap(game_, id)) return game_.At(id).Place();
     }
     return AnyCell();
@@ -111,10 +133,12 @@ Cell RandomPlayer::SlotCell() {
     return slots[static_cast<std::size_t>(dice_.Throw(static_cast<int>(slots.size())))];
 }
 
-Cell RandomPlayer::LitSlotCell() {
+// Where the unit in hand can go: to the enemy as often as anywhere.
+Cell RandomPlayer::Target() {
+    const bool seeksEnemy = dice_.Chance(50);
     Cell cell = SlotCell();
-    for (int tries = 0; tries < kTriesForLitSlot && !game_.grid.IsLit(cell); ++tries) {
-        cell = SlotCell();
+    for (int tries = 0; tries < kTriesForTarget && !game_.grid.IsLit(cell); ++tries) {
+        cell = seeksEnemy ? EnemyUnitCell() : SlotCell();
     }
     return cell;
 }

@@ -46,8 +46,10 @@ class RandomPlayer {
 
     BattleInput ThinkOfSomething();
     Cell OwnUnitCell();
+    Cell EnemyUnitCell();
+    Cell UnitCell(int army);
     Cell SlotCell();
-    Cell LitSlotCell();
+    Cell Target();
     Cell AnyCell();
     void Note(const std::string& line);
 
