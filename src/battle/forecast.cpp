@@ -5,10 +5,10 @@
 #include <tuple>
 #include <utility>
 
+#include "battle/area_forces.h"
 #include "battle/attack.h"
 #include "battle/enemy_slots.h"
-#include "battle/ready_arms.h"
-#include "battle/tactics_table.h"
+#include "battle/tactics.h"
 #include "model/areas.h"
 #include "model/dice_paths.h"
 #include "model/units_on_map.h"
@@ -105,7 +105,7 @@ std::optional<std::string> WhyNotOnMap(const Game& game, UnitId id) {
 }
 
 bool IsTacticNumber(int number) {
-    return number >= 0 && number < kTactics;
+    return number >= 0 && number <= static_cast<int>(Tactic::CavalrySwarmAttack);
 }
 
 // Nothing when the plan can be carried out.
@@ -156,7 +156,8 @@ void PlayTactics(Game& game, const TacticsPlayed& tactics) {
     game.battle.attackingSlots = kSeveral;
     game.battle.chosenTactic = tactics.tactic;
     game.battle.tacticalResponse = tactics.response;
-    game.battle.tacticalAdvantage = TacticalAdvantageOf(tactics.tactic, tactics.response);
+    game.battle.tacticalAdvantage = AdvantageOf(tactics.tactic, tactics.response);
+    game.battle.requiredLeadership = LeadershipFor(tactics.tactic);
 }
 
 }  // namespace
@@ -179,7 +180,7 @@ void SetUpAttack(Game& game, const AttackPlan& plan) {
     if (plan.bombard) {
         attacker.actionPoints = 0;
     } else {
-        battle.combinedArms = ArmsReady(game).Combine() ? 1 : 0;
+        GatherAttackers(game);
     }
     if (plan.tactics) PlayTactics(game, *plan.tactics);
 }

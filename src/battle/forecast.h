@@ -17,7 +17,8 @@ struct TacticsPlayed {
     int response = 0;  // 0 to 9
 };
 
-// An attack as the battle at the end of the turn would fight it, or a barrage.
+// An attack as the battle at the end of the turn would fight it, with the arms and the leadership
+// of the units that stand ready in the area; or a barrage.
 struct AttackPlan {
     UnitId attacker;
     UnitId target;
