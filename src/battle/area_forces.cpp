@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "battle/enemy_slots.h"
 #include "model/areas.h"
 #include "model/units_on_map.h"
 
@@ -48,16 +49,10 @@ void CountOwnArm(BattleState& battle, UnitType type) {
 }  // namespace
 
 void CountEnemyForces(Game& game) {
+    FillEnemySlots(game);
     BattleState& battle = game.battle;
-    const int army = EnemyArmyOf(game, game.state.currentAreaSlots);
-    if (army < 0) return;
-    battle.targetArmy = army;
-    for (int slot = 0; slot < kSlotsPerSide; ++slot) {
-        const int index = FindEnemyInSlot(game, EnemySlot(game, slot));
-        if (index == 0) return;
-        battle.enemySlotUnit[static_cast<std::size_t>(slot)] = index;
-        ++battle.enemySlotsFilled;
-        CountEnemyUnit(battle, game.At({army, index}));
+    for (int index : battle.enemySlotUnit) {
+        if (index > 0) CountEnemyUnit(battle, game.At({battle.targetArmy, index}));
     }
 }
 

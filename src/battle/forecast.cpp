@@ -5,10 +5,10 @@
 #include <tuple>
 #include <utility>
 
+#include "battle/area_forces.h"
 #include "battle/attack.h"
 #include "battle/enemy_slots.h"
-#include "battle/ready_arms.h"
-#include "battle/tactics_table.h"
+#include "battle/tactics.h"
 #include "model/areas.h"
 #include "model/dice_paths.h"
 #include "model/units_on_map.h"
@@ -17,7 +17,7 @@
 namespace varnstride {
 namespace {
 
-bool operator<(const StrikeTerm& one, const StrikeTerm& other) {
+bool TermComesFirst(const StrikeTerm& one, const StrikeTerm& other) {
     return std::tie(one.kind, one.name, one.amount) <
            std::tie(other.kind, other.name, other.amount);
 }
@@ -25,9 +25,8 @@ bool operator<(const StrikeTerm& one, const StrikeTerm& other) {
 struct ByReckoning {
     bool operator()(const Reckoning& one, const Reckoning& other) const {
         if (one.strike != other.strike) return one.strike < other.strike;
-        return std::lexicographical_compare(
-            one.terms.begin(), one.terms.end(), other.terms.begin(), other.terms.end(),
-            [](const StrikeTerm& a, const StrikeTerm& b) { return a < b; });
+        return std::lexicographical_compare(one.terms.begin(), one.terms.end(), other.terms.begin(),
+                                            other.terms.end(), TermComesFirst);
     }
 };
 
@@ -73,6 +72,7 @@ class Tally {
     template <typename Case, typename Order>
     static std::vector<Chance<Case>> Listed(const std::map<Case, double, Order>& cases) {
         std::vector<Chance<Case>> list;
+        list.reserve(cases.size());
         for (const auto& [what, probability] : cases)
             list.push_back({what, probability});
         std::stable_sort(list.begin(), list.end(), [](const auto& one, const auto& other) {
@@ -105,7 +105,7 @@ std::optional<std::string> WhyNotOnMap(const Game& game, UnitId id) {
 }
 
 bool IsTacticNumber(int number) {
-    return number >= 0 && number < kTactics;
+    return number >= 0 && number <= static_cast<int>(Tactic::CavalrySwarmAttack);
 }
 
 // Nothing when the plan can be carried out.
@@ -156,7 +156,8 @@ void PlayTactics(Game& game, const TacticsPlayed& tactics) {
     game.battle.attackingSlots = kSeveral;
     game.battle.chosenTactic = tactics.tactic;
     game.battle.tacticalResponse = tactics.response;
-    game.battle.tacticalAdvantage = TacticalAdvantageOf(tactics.tactic, tactics.response);
+    game.battle.tacticalAdvantage = AdvantageOf(tactics.tactic, tactics.response);
+    game.battle.requiredLeadership = LeadershipFor(tactics.tactic);
 }
 
 }  // namespace
@@ -179,7 +180,7 @@ void SetUpAttack(Game& game, const AttackPlan& plan) {
     if (plan.bombard) {
         attacker.actionPoints = 0;
     } else {
-        battle.combinedArms = ArmsReady(game).Combine() ? 1 : 0;
+        GatherAttackers(game);
     }
     if (plan.tactics) PlayTactics(game, *plan.tactics);
 }

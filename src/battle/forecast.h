@@ -4,6 +4,7 @@
 #pragma once
 
 #include <optional>
+#include <tuple>
 #include <vector>
 
 #include "model/game.h"
@@ -16,7 +17,8 @@ struct TacticsPlayed {
     int response = 0;  // 0 to 9
 };
 
-// An attack as the battle at the end of the turn would fight it, or a barrage.
+// An attack as the battle at the end of the turn would fight it, with the arms and the leadership
+// of the units that stand ready in the area; or a barrage.
 struct AttackPlan {
     UnitId attacker;
     UnitId target;
@@ -29,14 +31,21 @@ struct SideOutcome {
     int morale = 0;  // left
     UnitStatus status = UnitStatus::Destroyed;
 
-    friend auto operator<=>(const SideOutcome&, const SideOutcome&) = default;
+    friend bool operator==(const SideOutcome&, const SideOutcome&) = default;
+    friend bool operator<(const SideOutcome& one, const SideOutcome& other) {
+        return std::tie(one.strengthLost, one.morale, one.status) <
+               std::tie(other.strengthLost, other.morale, other.status);
+    }
 };
 
 struct AttackOutcome {
     SideOutcome target;
     SideOutcome attacker;
 
-    friend auto operator<=>(const AttackOutcome&, const AttackOutcome&) = default;
+    friend bool operator==(const AttackOutcome&, const AttackOutcome&) = default;
+    friend bool operator<(const AttackOutcome& one, const AttackOutcome& other) {
+        return std::tie(one.target, one.attacker) < std::tie(other.target, other.attacker);
+    }
 };
 
 // A strike as it is reckoned in some of the cases; not made at all in the rest.

@@ -269,6 +269,7 @@ const std::vector<Encounter>& VariedEncounters() {
          [](AttackField& field) {
              AttackPlan plan = MeetInTheMiddle(field, Fighter(LineInfantry), Fighter(LineInfantry));
              plan.tactics = TacticsPlayed{4, 3};
+             field.Add(kFrench, AttackField::kMiddle, 2, Fighter(LineInfantry));
              return plan;
          }},
         {"a surrender",
@@ -399,6 +400,8 @@ TEST(Forecast, CoversTheTurnsOfFortune) {
     EXPECT_GT(
         ChanceThat(forecasts.at("a bayonet charge that costs the attacker dear"), attackerDies),
         0.5);
+    // (5 + 2) x 4: the two have the leadership for it
+    EXPECT_EQ(forecasts.at("a flank attack").attacks.at(0).what.strike, 28);
     const AttackForecast& square = forecasts.at("cuirassiers on veterans who may form square");
     EXPECT_NEAR(square.attacks.at(0).probability, square.attacks.at(1).probability, 1e-9);
     const double hussars = forecasts.at("shaken hussars against lancers, both tested").goesIn;

@@ -140,8 +140,8 @@ void AddExplain(CLI::App& app) {
     CLI::App* command = app.add_subcommand(
         "explain", "Reckons an attack in a saved position and lists every outcome with its chance");
     command->footer(
-        "The attack is fought as the battle at the end of the turn would, by the unit alone and as "
-        "it stands in the file; whether a barrage carries so far is not asked.");
+        "The attack is fought as the battle at the end of the turn would, by units as they stand "
+        "in the file; whether a barrage carries so far is not asked.");
     const auto question = std::make_shared<Question>();
     command->add_option("FILE", question->file, "A scenario, battle or turn file")->required();
     command->add_option("--army", question->army, "The army of the attacker")->required();
