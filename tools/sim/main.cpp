@@ -30,6 +30,7 @@ int main(int argumentCount, char** arguments) {
     AddDump(app);
     AddExplain(app);
     AddDuel(app);
+    AddPicture(app, arguments[0]);
     AddSignature(app, arguments[0]);
     try {
         app.parse(argumentCount, arguments);
