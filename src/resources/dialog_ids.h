@@ -5,6 +5,7 @@ namespace varnstride {
 
 constexpr int kCommandReport = 144;
 constexpr int kVictory = 149;
+constexpr int kBombardmentList = 150;
 constexpr int kBattleResult = 245;
 constexpr int kGameEnd = 269;
 constexpr int kScenarioOptions = 302;
