@@ -12,7 +12,6 @@ namespace varnstride {
 namespace {
 
 constexpr int kGunList = 1285;
-constexpr int kHint = 1402;
 constexpr int kLocate = 1023;
 constexpr int kFire = 1367;
 
@@ -20,8 +19,9 @@ Dialog GunDialog(const Game& game, const std::vector<UnitId>& guns) {
     std::vector<std::string> names;
     for (UnitId gun : guns)
         names.emplace_back(game.At(gun).name.data());
-    Dialog dialog{.templateId = kBombardmentList, .caption = "Artillery available for Bombardment"};
-    dialog.AddLabel(kHint, "When Firing - Left Click Mouse on Target Area");
+    Dialog dialog{.templateId = kBombardmentList,
+                  .caption = "Artillery available for Bombardment",
+                  .heading = "When Firing - Left Click Mouse on Target Area"};
     dialog.AddList(kGunList, names);
     dialog.AddButton(kLocate, "Locate");
     dialog.AddButton(kFire, "Fire");

@@ -3,13 +3,17 @@
 #include <algorithm>
 #include <array>
 
+#include "app/army_listing.h"
 #include "app/artillery_orders.h"
 #include "app/care_orders.h"
 #include "app/display_options.h"
 #include "app/file_menu.h"
 #include "app/formation_dialog.h"
 #include "app/map_input.h"
+#include "app/objectives_dialog.h"
+#include "app/reinforcement_lists.h"
 #include "app/status_dialogs.h"
+#include "app/strength_dialog.h"
 #include "app/turn_menu.h"
 #include "app/unit_groups.h"
 #include "app/unit_orders.h"
@@ -67,9 +71,18 @@ constexpr auto kCommands = std::to_array<Command>({
     {32930, Order<RallyAndReform>},
     {32979, Order<ChangeFormationByCommand>},
     {33008, CancelAction},
+    // Reinforce
+    {32790, ShowReinforcementSchedule},
+    {32791, ShowArrivedUnits},
+    {32792, ShowReleaseSchedule},
     // Status
+    {32793, ShowStrength},
+    {32962, ShowArmyUnitListing},
     {32970, ShowCommandReport},
+    {32974, ShowIntelligence},
+    {32794, ShowObjectives},
     {32795, ShowVictory},
+    {32960, ShowRemovedUnits},
     {32890, ShowScenarioDescription},
     {32897, ShowScenarioInformation},
     {32995, ShowScenarioSettings},
@@ -124,6 +137,7 @@ constexpr auto kKeys = std::to_array<KeyStroke>({
     {Key::One, TakeSlot<1>},
     {Key::Two, TakeSlot<2>},
     {Key::Three, TakeSlot<3>},
+    {Key::A, ShowStrength},
     {Key::B, ToggleOutOfCommandFilter},
     {Key::C, ToggleSetting<&Settings::armyColours>},
     {Key::D, ToggleCommandRange},
