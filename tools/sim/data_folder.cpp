@@ -1,28 +1,14 @@
 #include "sim/data_folder.h"
 
-#include <array>
-
+#include "files/data_folder.h"
 #include "sim/subcommands.h"
 
 namespace varnstride::sim {
-namespace {
 
-namespace fs = std::filesystem;
-
-// Seen from the folder of the program.
-constexpr std::array kFolders = {"../share/varnstride", "../data", "."};
-
-}  // namespace
-
-fs::path DataFolder(const fs::path& program) {
-    std::error_code error;
-    const fs::path self = fs::read_symlink("/proc/self/exe", error);
-    const fs::path home = (error ? fs::absolute(program) : self).parent_path();
-    for (const char* folder : kFolders) {
-        const fs::path data = home / folder;
-        if (fs::is_directory(data / "Scenarios", error)) return data.lexically_normal();
-    }
-    throw Refusal("no folder of the game's files beside " + home.string());
+std::filesystem::path DataFolder() {
+    const std::optional<std::filesystem::path> data = FindDataFolder();
+    if (!data) throw Refusal("no folder of the game's files beside the program");
+    return *data;
 }
 
 }  // namespace varnstride::sim

@@ -5,8 +5,7 @@
 
 namespace varnstride::sim {
 
-// The folder that holds Scenarios, Graphics and Units: installed, in a build, or beside the
-// program. Throws a Refusal when there is none.
-std::filesystem::path DataFolder(const std::filesystem::path& program);
+// As FindDataFolder; throws a Refusal when there is none.
+std::filesystem::path DataFolder();
 
 }  // namespace varnstride::sim

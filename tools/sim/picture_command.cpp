@@ -86,12 +86,12 @@ Surface Draw(const Wish& wish, const Game& game, const Art& art) {
     return frame;
 }
 
-void Paint(const Wish& wish, const fs::path& program) {
+void Paint(const Wish& wish) {
     SilentPerson nobody;
     Game game = FreshGame(BuiltInAtlases(), nobody, SettingsOf(wish));
     OpenPosition(game, wish.file);
     game.grid.FinishPictures();
-    const Art art(wish.data.empty() ? DataFolder(program) : wish.data);
+    const Art art(wish.data.empty() ? DataFolder() : wish.data);
     for (const std::string& complaint : art.Complaints())
         std::cerr << "varnstride-sim: " << complaint << '\n';
     const Result<Done> written = WriteSafely(wish.out, EncodePng(Draw(wish, game, art)));
@@ -100,7 +100,7 @@ void Paint(const Wish& wish, const fs::path& program) {
 
 }  // namespace
 
-void AddPicture(CLI::App& app, const fs::path& program) {
+void AddPicture(CLI::App& app) {
     constexpr int kLargest = 16384;
     CLI::App* command = app.add_subcommand(
         "picture", "Draws the map of a scenario, battle or turn file into a PNG file");
@@ -124,7 +124,7 @@ void AddPicture(CLI::App& app, const fs::path& program) {
     command->add_option("--option", wish->options, "A setting to switch: showUnitBases=1");
     command->add_option("--data", wish->data,
                         "The folder that holds Graphics and Units; by default the game's own");
-    command->callback([wish, program] { Paint(*wish, program); });
+    command->callback([wish] { Paint(*wish); });
 }
 
 }  // namespace varnstride::sim

@@ -56,15 +56,13 @@ void Print(const fs::path& folder) {
 
 }  // namespace
 
-void AddSignature(CLI::App& app, const fs::path& program) {
+void AddSignature(CLI::App& app) {
     CLI::App* command = app.add_subcommand(
         "signature", "Plays a fixed set of battles and prints one number for all of them");
     const auto folder = std::make_shared<fs::path>();
     command->add_option("--scenarios", *folder,
                         "The folder of the scenarios; by default the game's own");
-    command->callback([folder, program] {
-        Print(folder->empty() ? DataFolder(program) / "Scenarios" : *folder);
-    });
+    command->callback([folder] { Print(folder->empty() ? DataFolder() / "Scenarios" : *folder); });
 }
 
 }  // namespace varnstride::sim
