@@ -72,20 +72,6 @@ TEST(Schedule, TellsWhereAUnitOfTheArmyEntersTheMap) {
     }
 }
 
-TEST(Schedule, HoldsTheTurnsBetweenThisOneAndTheLast) {
-    ReportField field;
-    for (int turn : {20, 7, 5, 19, kLeftByExit, 6}) {
-        Unit unit = Named(UnitType::LineInfantry, std::to_string(turn).c_str());
-        unit.arrivalTurn = turn;
-        field.AddAt(kFrench, kNoCell, unit);
-    }
-    DispatchCommand(field.game, kScheduled);
-    ASSERT_EQ(field.Lines(1294).size(), 3U);
-    EXPECT_EQ(field.Lines(1294)[0].substr(0, 3), " 6 ");
-    EXPECT_EQ(field.Lines(1294)[1].substr(0, 3), " 7 ");
-    EXPECT_EQ(field.Lines(1294)[2].substr(0, 4), " 19 ");
-}
-
 TEST(RemovedUnits, TellsByWhichRoadAUnitLeft) {
     struct Case {
         int map;
