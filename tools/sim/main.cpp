@@ -24,11 +24,13 @@ int main(int argumentCount, char** arguments) {
         "Plays Varnstride without a screen: the same rules, files, commands and clicks as "
         "in the window, with every dialog answered from a script."};
     app.require_subcommand(1);
-    app.footer("Exit status: 0 done; 2 a script, a file or an argument is wrong.");
+    app.footer("Exit status: 0 done; 2 a script, a file or an argument is wrong; 3 a duel broke a record.");
     AddRun(app);
     AddAtlas(app);
     AddDump(app);
     AddExplain(app);
+    AddDuel(app);
+    AddPicture(app, arguments[0]);
     AddSignature(app, arguments[0]);
     try {
         app.parse(argumentCount, arguments);
