@@ -4,6 +4,7 @@
 #include "actions/top_bar.h"
 #include "actions/unit_in_hand.h"
 #include "app/guards.h"
+#include "app/unit_sheet.h"
 #include "battle/barrage.h"
 #include "battle/called_attack.h"
 #include "battle/move_order.h"
@@ -189,6 +190,17 @@ void TakeSlotInHand(Game& game, int slot) {
 void OnPanelClick(Game& game, int panel) {
     if (game.state.mapReady == 0) return;
     TakeSlotInHand(game, panel);
+    EndClick(game);
+}
+
+void OnPanelRightClick(Game& game, int panel) {
+    if (game.state.mapReady == 0) return;
+    TakeSlotInHand(game, panel);
+    if (game.state.currentUnit > 0) {
+        ShowUnitSheet(game);
+    } else {
+        game.person->Play(Sound::Ding);
+    }
     EndClick(game);
 }
 

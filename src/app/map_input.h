@@ -18,6 +18,9 @@ void OnRightClick(Game& game, Cell cell);
 // A left click on unit panel 1, 2 or 3.
 void OnPanelClick(Game& game, int panel);
 
+// A right click on unit panel 1, 2 or 3: the sheet of its unit.
+void OnPanelRightClick(Game& game, int panel);
+
 // Takes the unit in own slot 1, 2 or 3 of the area in hand and lights its reach, as a panel and the
 // number keys do.
 void TakeSlotInHand(Game& game, int slot);
