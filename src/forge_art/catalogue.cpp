@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "forge_art/bars.h"
+#include "forge_art/emblems.h"
 #include "forge_art/ground.h"
 #include "forge_art/marks.h"
 #include "forge_art/mini_map.h"
@@ -11,6 +12,8 @@
 #include "forge_art/sheet.h"
 #include "forge_art/small_units.h"
 #include "forge_art/terrain.h"
+#include "forge_art/title.h"
+#include "forge_art/top_bar_sheet.h"
 #include "forge_art/troop_sheets.h"
 #include "forge_art/ways.h"
 
@@ -144,6 +147,13 @@ void AddBars(std::vector<Picture>& list) {
     list.push_back(SheetPicture("Graphics/3D_Unit_Bases", "bars", 6, PaintBases));
 }
 
+void AddCanvases(std::vector<Picture>& list) {
+    list.push_back({"Graphics/Nap4.bmp", "canvases", PaintTopBarSheet});
+    list.push_back({"Graphics/Emblems10.bmp", "canvases", PaintEmblems});
+    list.push_back({"Graphics/Labels6.bmp", "canvases", PaintLabelSheet});
+    list.push_back({"Graphics/Title Screen9D.bmp", "title", PaintTitle});
+}
+
 std::vector<Picture> AllPictures() {
     std::vector<Picture> list;
     AddGround(list);
@@ -154,6 +164,7 @@ std::vector<Picture> AllPictures() {
     AddMarks(list);
     AddSmallUnits(list);
     AddBars(list);
+    AddCanvases(list);
     return list;
 }
 
