@@ -31,7 +31,7 @@ const std::vector<Floor>& Floors() {
         {"app", {"model", "resources", "actions", "battle", "opponent", "files", "flow"}},
         {"forge", {"model", "files"}},
         {"forge_art", {"model", "forge"}},
-        {"display", {"model", "resources", "app"}},
+        {"display", {"model", "resources", "actions", "app"}},
         {"sound", {"model", "resources"}},
         {"platform",
          {"model", "resources", "actions", "battle", "opponent", "files", "flow", "app", "forge",

@@ -29,6 +29,7 @@ int main(int argumentCount, char** arguments) {
     AddAtlas(app);
     AddDump(app);
     AddExplain(app);
+    AddPicture(app, arguments[0]);
     AddSignature(app, arguments[0]);
     try {
         app.parse(argumentCount, arguments);

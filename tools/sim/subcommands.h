@@ -20,6 +20,7 @@ void AddRun(CLI::App& app);
 void AddAtlas(CLI::App& app);
 void AddDump(CLI::App& app);
 void AddExplain(CLI::App& app);
+void AddPicture(CLI::App& app, const std::filesystem::path& program);
 void AddSignature(CLI::App& app, const std::filesystem::path& program);
 
 }  // namespace varnstride::sim
