@@ -6,6 +6,7 @@
 #include "forge/ground_rules.h"
 #include "forge/scenario_battle.h"
 #include "forge/scenario_checks.h"
+#include "forge/scenario_dressing.h"
 #include "forge/scenario_fields.h"
 #include "forge/scenario_maps.h"
 #include "forge/scenario_places.h"
@@ -47,6 +48,7 @@ ScenarioBuild Assemble(std::string_view source, const AtlasCatalogue& atlases,
     ReadDescription(text, build);
     ReadMaps(text, build);
     ReadRoads(text, build);
+    DressGround(build);
     ReadLabels(text, build);
     ReadObjectives(text, build);
     ReadArmies(text, build);

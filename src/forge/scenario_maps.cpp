@@ -53,7 +53,7 @@ int Variant(Cell cell, std::uint32_t salt, int count) {
     return static_cast<int>((mixed ^ mixed >> 16) % static_cast<std::uint32_t>(count));
 }
 
-enum Salt : std::uint32_t { kTerrainSalt = 1, kGroundSalt = 2, kOverlaySalt = 3 };
+enum Salt : std::uint32_t { kTerrainSalt = 1, kOverlaySalt = 3 };
 
 int OneOf(Cell place, Salt salt, int first, int last) {
     return first + Variant(place, salt, last - first + 1);
@@ -80,6 +80,9 @@ bool PutTerrain(MapCell& cell, Cell place, char letter) {
 }
 
 char TerrainLetterOf(const MapCell& cell) {
+    for (const WoodRide& ride : kWoodlandRides) {
+        if (ride.tile == cell.terrainTile) return 'w';
+    }
     for (const TerrainLetter& known : kTerrainLetters) {
         if (cell.terrainTile >= known.firstTile && cell.terrainTile <= known.lastTile) {
             return known.letter;
@@ -99,10 +102,10 @@ char AreaLetterOf(const MapCell& cell) {
     return digit >= 1 && digit <= 9 ? static_cast<char>('0' + digit) : '.';
 }
 
-bool PutHeight(MapCell& cell, Cell place, char letter) {
+bool PutHeight(MapCell& cell, Cell, char letter) {
     const int band = letter - '0';
     if (band < 0 || band >= kHeightBands) return false;
-    cell.groundTile = band * kGroundTilesPerBand + Variant(place, kGroundSalt, kGroundTilesPerBand);
+    cell.groundTile = band * kGroundTilesPerBand;
     return true;
 }
 

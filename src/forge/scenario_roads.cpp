@@ -20,18 +20,6 @@ bool IsRiver(const MapCell& cell) {
     return cell.terrainTile >= kFirstRiverTile && cell.terrainTile <= kLastRiverTile;
 }
 
-// The ways in which a bridge can run, by the two sides that it joins.
-struct BridgeWay {
-    int roadTile;
-    unsigned sides;
-};
-
-constexpr std::array<BridgeWay, 3> kBridgeWays = {{
-    {kBridgeEastWest, SideBit(1) | SideBit(4)},
-    {kBridgeNorthEastSouthWest, SideBit(0) | SideBit(3)},
-    {kBridgeNorthWestSouthEast, SideBit(2) | SideBit(5)},
-}};
-
 // What the roads make of a cell.
 struct RoadCell {
     unsigned sides = 0;
@@ -124,15 +112,17 @@ unsigned WaterSides(ScenarioBuild& build, Cell cell) {
     return sides;
 }
 
-// The way of a bridge: along the road's sides and, where the road bends, across the water's.
-int BridgeTile(unsigned roadSides, unsigned waterSides) {
-    const auto fitness = [&](const BridgeWay& way) {
-        return 3 * std::popcount(way.sides & roadSides) - std::popcount(way.sides & waterSides);
+// The bridge whose road joins most of the road's sides; among equals one that runs straight, and
+// rather across the water than along it.
+int BridgeFor(unsigned roadSides, unsigned waterSides) {
+    const auto fitness = [&](const BridgeTile& bridge) {
+        return 3 * std::popcount(bridge.sides & roadSides) -
+               std::popcount(bridge.sides & waterSides);
     };
     return std::max_element(
-               kBridgeWays.begin(), kBridgeWays.end(),
-               [&](const BridgeWay& a, const BridgeWay& b) { return fitness(a) < fitness(b); })
-        ->roadTile;
+               kBridges.begin(), kBridges.end(),
+               [&](const BridgeTile& a, const BridgeTile& b) { return fitness(a) < fitness(b); })
+        ->tile;
 }
 
 void RoadNet::Put() {
@@ -142,7 +132,7 @@ void RoadNet::Put() {
         if (IsStreamOrRiver(cell)) {
             const unsigned water = WaterSides(build_, place);
             cell.featureTile = (IsRiver(cell) ? kRiver : kStream) + static_cast<int>(water);
-            if (road.sides != 0) cell.roadTile = BridgeTile(road.sides, water);
+            if (road.sides != 0) cell.roadTile = BridgeFor(road.sides, water);
         } else if (road.sides != 0) {
             cell.featureTile = (road.paved ? kPavedRoad : kTrack) + static_cast<int>(road.sides);
         }
@@ -161,8 +151,8 @@ bool IsLake(const MapCell& cell) {
 
 unsigned BridgeSides(const MapCell& cell) {
     if (!IsStreamOrRiver(cell)) return 0;
-    for (const BridgeWay& way : kBridgeWays) {
-        if (way.roadTile == cell.roadTile) return way.sides;
+    for (const BridgeTile& bridge : kBridges) {
+        if (bridge.tile == cell.roadTile) return bridge.sides;
     }
     return 0;
 }

@@ -2,6 +2,8 @@
 // art is drawn to these figures and files are checked against them.
 #pragma once
 
+#include <array>
+
 namespace varnstride {
 
 constexpr int kGroundTiles = 144;  // six pictures a height band
@@ -21,9 +23,80 @@ constexpr int kStream = 128;
 constexpr int kRiver = 192;
 constexpr int kFeatureTiles = 256;
 
-// Bridges stand in the road layer, by the way in which the road runs.
+// Bridges stand in the road layer, by the two sides that the road over them joins.
 constexpr int kBridgeEastWest = 11;
 constexpr int kBridgeNorthEastSouthWest = 12;
 constexpr int kBridgeNorthWestSouthEast = 13;
+struct BridgeTile {
+    int tile;
+    unsigned sides;
+};
+constexpr std::array<BridgeTile, 15> kBridges = {{
+    {kBridgeEastWest, 18},
+    {kBridgeNorthEastSouthWest, 9},
+    {kBridgeNorthWestSouthEast, 36},
+    {2, 3},
+    {3, 5},
+    {4, 17},
+    {5, 33},
+    {6, 6},
+    {8, 10},
+    {14, 34},
+    {15, 12},
+    {16, 20},
+    {17, 24},
+    {18, 40},
+    {19, 48},
+}};
+
+// Border pictures by the sides beyond which another area number lies. The pattern's bits are, from
+// the highest: W NW NE E SE SW. A pattern that is not listed has no picture.
+constexpr std::array<int, kBorderTiles> kPicturedBorders = {
+    0b000000, 0b100000, 0b110000, 0b111000, 0b111100, 0b111110, 0b111111, 0b100001,
+    0b100011, 0b100111, 0b101111, 0b110111, 0b111011, 0b111101, 0b011111, 0b110011,
+    0b111001, 0b011110, 0b001111, 0b110001, 0b011100, 0b001110, 0b000111, 0b000011,
+    0b000110, 0b001100, 0b011000, 0b010000, 0b001000, 0b000100, 0b000010, 0b000001};
+
+// Slopes stand in the overlay layer: a picture for each set of sides beyond which the ground is
+// lower. They take the numbers that are neither a palisade nor nothing.
+constexpr int SlopeTile(unsigned lowerSides) {
+    const int mask = static_cast<int>(lowerSides);
+    if (mask < 34) return mask - 1;
+    return mask < 53 ? mask : mask + 17;
+}
+
+// Woods with a ride for a road, by the sides between which it runs; a road that fits none takes
+// the one that keeps all sides free.
+struct WoodRide {
+    int tile;
+    unsigned sides;
+};
+constexpr unsigned kAllSides = 63;
+constexpr std::array<WoodRide, 18> kWoodlandRides = {{
+    {30, 18},
+    {31, 9},
+    {32, 36},
+    {33, 3},
+    {34, 5},
+    {35, 17},
+    {54, 33},
+    {55, 6},
+    {56, 10},
+    {57, 34},
+    {58, 12},
+    {59, 20},
+    {60, 24},
+    {61, 40},
+    {72, 48},
+    {73, 21},
+    {74, 42},
+    {75, kAllSides},
+}};
+constexpr std::array<WoodRide, 4> kForestRides = {{
+    {44, 18},
+    {45, 9},
+    {46, 36},
+    {47, kAllSides},
+}};
 
 }  // namespace varnstride

@@ -19,14 +19,14 @@ struct Look {
     int density;  // of seven pixels, so many are painted
 };
 
-// Ground fills its hexagon; what stands on it is taller than a row or hangs out of its cell.
+// Ground fills its hexagon; what stands on it is taller than a row, upwards or downwards.
 Look LookOf(Sheet sheet) {
     switch (sheet) {
         case Sheet::Ground:
         case Sheet::HighGround: return {32, 42, {16, 21}, 7};
         case Sheet::SmallGround: return {16, 21, {8, 10}, 7};
-        case Sheet::Terrain:
-        case Sheet::FrozenTerrain: return {26, 50, {13, 44}, 4};
+        case Sheet::Terrain: return {26, 50, {13, 44}, 4};
+        case Sheet::FrozenTerrain: return {14, 46, {7, 4}, 4};
         case Sheet::SmallTerrain: return {12, 24, {6, 20}, 4};
         case Sheet::Shade: return {32, 42, {16, 21}, 3};
         case Sheet::SmallShade: return {16, 21, {8, 10}, 3};

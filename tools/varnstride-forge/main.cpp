@@ -4,6 +4,7 @@
 #include <exception>
 #include <iostream>
 
+#include "varnstride-forge/art_command.h"
 #include "varnstride-forge/atlas_command.h"
 #include "varnstride-forge/scenario_command.h"
 
@@ -16,6 +17,7 @@ int Run(int argc, char** argv) {
     CLI::App app("Checks and compiles the content of Varnstride", "varnstride-forge");
     app.require_subcommand(1);
     int exitCode = 0;
+    varnstride::AddArtCommand(app, exitCode);
     varnstride::AddAtlasCommand(app, exitCode);
     varnstride::AddScenarioCommand(app, exitCode);
     try {

@@ -1,0 +1,174 @@
+#include "forge_art/overlays.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "forge_art/chance.h"
+#include "forge_art/color.h"
+#include "forge_art/hex_shape.h"
+#include "forge_art/plate.h"
+#include "model/tile_sheets.h"
+
+namespace varnstride::art {
+namespace {
+
+constexpr int kSlopeMasks = 63;
+
+bool IsPalisade(int number) {
+    return (number >= 53 && number <= 69) || number == 104 || (number >= 123 && number <= 141);
+}
+
+bool FallsAt(int mask, int side) {
+    return (mask >> ((side + kSideCount) % kSideCount) & 1) != 0;
+}
+
+// Sides that look away from the light.
+bool IsShaded(int side) {
+    return side == kEast || side == kSouthEast || side == kSouthWest;
+}
+
+QRect RoomOf(const HexShape& hex) {
+    return QRect(-hex.width / 2, hex.Top(), hex.width, hex.Bottom() - hex.Top());
+}
+
+// A stroke of the pen, one pixel wide.
+void PutStroke(Tile& tile, const HexShape& hex, QPointF from, QPointF to, QRgb color) {
+    const QPointF way = to - from;
+    const int steps =
+        std::max(1, static_cast<int>(std::lround(std::max(std::abs(way.x()), std::abs(way.y())))));
+    for (int i = 0; i <= steps; ++i) {
+        const QPointF at = from + way * (static_cast<double>(i) / steps);
+        const int x = static_cast<int>(std::floor(at.x()));
+        const int y = static_cast<int>(std::floor(at.y()));
+        if (hex.Contains(x, y)) tile.Set(x, y, color);
+    }
+}
+
+// Strokes run down a slope, from its crest inside the cell to the side. They shorten towards an
+// end of the side where the slope ends too.
+class SlopePainter {
+ public:
+    SlopePainter(const Palette& palette, const HexShape& hex, int mask)
+        : palette_(palette),
+          hex_(hex),
+          mask_(mask),
+          chance_(static_cast<std::uint32_t>(mask) + 700),
+          tile_(RoomOf(hex)) {}
+
+    Tile Paint() {
+        for (int side = 0; side < kSideCount; ++side)
+            if (FallsAt(mask_, side)) PaintSide(side);
+        return tile_;
+    }
+
+ private:
+    void PaintSide(int side) {
+        const QPointF begin = hex_.Corner(side);
+        const QPointF end = hex_.Corner((side + 1) % kSideCount);
+        const double length = std::hypot(end.x() - begin.x(), end.y() - begin.y());
+        const double spacing = IsShaded(side) ? 2.1 : 3.0;
+        const int count = static_cast<int>(length / spacing);
+        for (int i = 0; i < count; ++i) {
+            const double share = (i + 0.5) / count;
+            PaintStroke(side, begin + (end - begin) * share, LengthAt(side, share));
+        }
+    }
+
+    // As a part of the slope's full width.
+    double LengthAt(int side, double share) const {
+        const double reach = 0.34;
+        double length = 1;
+        if (!FallsAt(mask_, side - 1)) length = std::min(length, 0.35 + share / reach);
+        if (!FallsAt(mask_, side + 1)) length = std::min(length, 0.35 + (1 - share) / reach);
+        return std::min(length, 1.0);
+    }
+
+    void PaintStroke(int side, QPointF foot, double part) {
+        const QPointF gate = hex_.Gate(side);
+        const double distance = std::hypot(gate.x(), gate.y());
+        const QPointF straight = gate / distance;
+        const double radius = std::hypot(foot.x(), foot.y());
+        const QPointF fanned = straight * 0.72 + foot / radius * 0.28;
+        const double deep = (IsShaded(side) ? 0.30 : 0.24) * hex_.width;
+        const double length = deep * part * chance_.Between(0.72, 1.05);
+        const QPointF low = foot - fanned * (0.02 * hex_.width);
+        const QPointF high = low - fanned * length;
+        const QRgb ink = palette_[IsShaded(side) ? "slope.shade" : "slope.light"];
+        PutStroke(tile_, hex_, high, low, ink);
+        if (IsShaded(side)) {
+            PutStroke(tile_, hex_, high, high + (low - high) * 0.35, palette_["slope.crest"]);
+        }
+    }
+
+    const Palette& palette_;
+    const HexShape& hex_;
+    int mask_;
+    Chance chance_;
+    Tile tile_;
+};
+
+// Pointed stakes side by side, with a ditch before them; an abatis has felled trees instead.
+Tile PaintPalisade(const Palette& palette, const HexShape& hex, int number) {
+    const double scale = hex.width / 32.0;
+    Plate plate(QRect(-20, -20, 40, 40));
+    plate.Brush().scale(scale, scale);
+    Chance chance(static_cast<std::uint32_t>(number) + 800);
+    plate.Oval(0.5, 5.6, 15.5, 2.6, palette["work.ditch"]);
+    if (number % 2 == 0) {
+        for (double x = -14; x <= 14; x += 3.1) {
+            const double top = -6 + chance.Between(-1, 1);
+            plate.Area({{x - 1.5, 5}, {x - 1.5, top}, {x, top - 2.4}, {x + 1.5, top}, {x + 1.5, 5}},
+                       palette["work.line"]);
+            plate.Box(x - 0.9, top + 0.3, 1.1, 4.4 - top, palette["work.wood"]);
+        }
+        plate.Box(-15, -1.2, 30, 1.4, palette["work.line"]);
+        return plate.Pressed();
+    }
+    for (int i = 0; i < 8; ++i) {
+        const double x = -13 + i * 3.7 + chance.Between(-1, 1);
+        const double lean = chance.Between(-4, 4);
+        plate.Line(x, 5, x + lean, -6, 1.9, palette["work.line"]);
+        plate.Line(x, 5, x + lean, -6, 0.9, palette["work.wood"]);
+        plate.Line(x + lean * 0.5, -0.5, x + lean * 0.5 + 4, -4.5, 1.1, palette["work.line"]);
+        plate.Line(x + lean * 0.5, -0.5, x + lean * 0.5 - 4, -3.5, 1.1, palette["work.line"]);
+        plate.Disc(x + lean * 0.6 + 2.6, -4.6, 1.2, palette["leaf.dark"]);
+    }
+    return plate.Pressed();
+}
+
+std::vector<Tile> PaintAll(const Studio& studio, const HexShape& hex) {
+    std::vector<Tile> tiles(kOverlayTiles);
+    for (int mask = 1; mask <= kSlopeMasks; ++mask) {
+        tiles[static_cast<std::size_t>(SlopeTile(static_cast<unsigned>(mask)))] =
+            SlopePainter(studio.palette, hex, mask).Paint();
+    }
+    for (int number = 0; number < kOverlayTiles; ++number) {
+        if (!IsPalisade(number)) continue;
+        tiles[static_cast<std::size_t>(number)] = PaintPalisade(studio.palette, hex, number);
+    }
+    return tiles;
+}
+
+}  // namespace
+
+std::vector<Tile> PaintOverlays(const Studio& studio) {
+    return PaintAll(studio, kNormalHex);
+}
+
+std::vector<Tile> PaintSmallOverlays(const Studio& studio) {
+    return PaintAll(studio, kSmallHex);
+}
+
+std::vector<Tile> PaintTinyOverlays(const Studio& studio) {
+    std::vector<Tile> tiles(kOverlayTiles);
+    for (int number = 0; number < kOverlayTiles; ++number) {
+        if (!IsPalisade(number)) continue;
+        Tile tile(QRect(-2, -2, 4, 4));
+        tile.Set(-2, 0, studio.palette["work.line"]);
+        tile.Set(0, 0, studio.palette["work.line"]);
+        tiles[static_cast<std::size_t>(number)] = tile;
+    }
+    return tiles;
+}
+
+}  // namespace varnstride::art
