@@ -2,12 +2,6 @@
 
 namespace varnstride {
 
-bool IsComputerSide(int computerSide, int army) {
-    if (computerSide == kComputerPlaysBoth) return true;
-    return SideOf(army) == Side::French ? computerSide == kComputerPlaysFrench
-                                        : computerSide == kComputerPlaysAllies;
-}
-
 bool IsComputerTurn(const Game& game) {
     return game.state.gameMode == GameMode::Local &&
            IsComputerSide(game.settings.computerSide, game.state.currentArmy);

@@ -2,15 +2,9 @@
 #pragma once
 
 #include "model/game.h"
+#include "model/who_plays.h"
 
 namespace varnstride {
-
-constexpr int kComputerPlaysFrench = 1;
-constexpr int kComputerPlaysAllies = 2;
-constexpr int kComputerPlaysBoth = 3;  // nobody is a person; no dialog offers this
-
-// Whether the computer would play the side of that army.
-bool IsComputerSide(int computerSide, int army);
 
 // Whether the army in play has its turn played by the computer.
 bool IsComputerTurn(const Game& game);

@@ -63,6 +63,21 @@ void TakeOrderAgain(Game& game) {
     if (IsMountedOrMortar(unit.type)) unit.formation = Formation::AttackColumn;
 }
 
+void RestoreShaken(Unit& unit) {
+    unit.morale = ShareOf(unit.maxMorale, kRalliedFromShaken);
+    unit.status = UnitStatus::Unsteady;
+    unit.actionPoints = 0;
+}
+
+bool TryToRestoreRouted(Unit& unit, int throwOfNerve) {
+    const int fullMorale = unit.maxMorale > 0 ? unit.morale / unit.maxMorale : 0;
+    if (fullMorale * throwOfNerve <= 1) return false;
+    unit.morale = ShareOf(unit.maxMorale, kRalliedFromRouted);
+    unit.status = UnitStatus::Shaken;
+    unit.actionPoints = 0;
+    return true;
+}
+
 bool ResupplyUnit(Game& game) {
     Unit& unit = game.InHand();
     const Cell selected = game.state.selectedCell;
@@ -95,9 +110,7 @@ void RallyShaken(Game& game) {
         return;
     }
     --game.ArmyInPlay().commandPoints;
-    unit.morale = ShareOf(unit.maxMorale, kRalliedFromShaken);
-    unit.status = UnitStatus::Unsteady;
-    unit.actionPoints = 0;
+    RestoreShaken(unit);
     ShowUnitRestored(game);
     if (IsFoot(unit.type)) game.person->Play(Sound::Rally3);
     if (IsMountedOrMortar(unit.type)) game.person->Play(Sound::Rally2);
@@ -107,11 +120,8 @@ void RallyShaken(Game& game) {
 void RallyRouted(Game& game) {
     Unit& unit = game.InHand();
     const int throwOfNerve = Die(game, 8) + 1;
-    const int fullMorale = unit.maxMorale > 0 ? unit.morale / unit.maxMorale : 0;
     unit.actionPoints = 0;
-    if (fullMorale * throwOfNerve > 1) {
-        unit.morale = ShareOf(unit.maxMorale, kRalliedFromRouted);
-        unit.status = UnitStatus::Shaken;
+    if (TryToRestoreRouted(unit, throwOfNerve)) {
         TakeOrderAgain(game);
         ShowUnitRestored(game);
         ShowCourier(game, 269);

@@ -15,6 +15,11 @@ void RallyShaken(Game& game);
 // Throws for the unit in hand, which is routed.
 void RallyRouted(Game& game);
 
+// What a rally makes of a unit, whoever orders it: more morale, a better status, no Action Points.
+// A routed one needs a throw, 1 to so many, and full morale; whether it rallied.
+void RestoreShaken(Unit& unit);
+bool TryToRestoreRouted(Unit& unit, int throwOfNerve);
+
 // The unit in hand takes order again, foot in Line and horse in Attack Column, unless its area is
 // built up.
 void TakeOrderAgain(Game& game);

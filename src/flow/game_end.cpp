@@ -1,6 +1,7 @@
 #include "flow/game_end.h"
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -43,11 +44,9 @@ bool IsDraw(const Game& game) {
 
 bool SpeaksToFirstSide(const Game& game) {
     const Side first = SideOf(game.header.firstPlayer);
-    if (game.state.computerPlays == kComputerPlaysBoth) return true;
-    if (game.state.computerPlays == 0) return SideOf(game.header.savedArmy) == first;
-    const Side player =
-        game.state.computerPlays == kComputerPlaysFrench ? Side::Allied : Side::French;
-    return game.state.armyRouted == 1 || player == first;
+    const std::optional<Side> player = SideAgainstComputer(game.state.computerPlays);
+    if (!player) return SideOf(game.header.savedArmy) == first;
+    return game.state.armyRouted == 1 || *player == first;
 }
 
 Dialog GameEndDialog(const Game& game) {

@@ -9,6 +9,22 @@
 namespace varnstride {
 namespace {
 
+// Slots off the grid or in its last column, which nobody plays on, are left out.
+void FindSlots(int width, int height, const Atlas& atlas, AreaMembership& membership) {
+    membership.slotsIn.resize(membership.cellsOf.size());
+    for (const AreaRow& row : atlas.Rows()) {
+        for (Cell slot : row.Slots()) {
+            const bool played = slot.x >= 0 && slot.x + 1 < width && slot.y >= 0 && slot.y < height;
+            if (!played || slot == kNoCell) continue;
+            membership.slots.push_back(slot);
+            membership.areasOf[static_cast<std::size_t>(slot.y * width + slot.x)].ForEach(
+                [&](int ordinal) {
+                    membership.slotsIn[static_cast<std::size_t>(ordinal)].push_back(slot);
+                });
+        }
+    }
+}
+
 AreaMembership MembershipOf(int width, int height, const std::vector<GroundCell>& ground,
                             const Atlas& atlas) {
     AreaMembership membership;
@@ -42,6 +58,7 @@ AreaMembership MembershipOf(int width, int height, const std::vector<GroundCell>
             if (ground[index].objective != 0) membership.objectives.push_back({x, y});
         }
     }
+    FindSlots(width, height, atlas, membership);
     return membership;
 }
 

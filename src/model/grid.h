@@ -68,6 +68,8 @@ struct AreaMembership {
     std::vector<std::uint8_t> areaOf;        // by cell: the last row that it fits, 0 none
     std::vector<std::vector<Cell>> cellsOf;  // by ordinal: columns 0 to width - 2, by rows
     std::vector<AreaSet> areasIn;            // by ordinal: what areaOf names in those cells
+    std::vector<std::vector<Cell>> slotsIn;  // by ordinal: those of them that are slots of any area
+    std::vector<Cell> slots;                 // of every area
     std::vector<Cell> objectives;            // every cell with an objective value, by rows
 };
 
@@ -115,6 +117,9 @@ class Grid {
     void ForEachLit(Visit visit) const;
     // The areas that AreaOf names in the lit cells of columns 0 to width - 2.
     AreaSet LitAreas() const;
+    // The same for those of them that are slots, where alone units stand.
+    template <typename Visit>
+    void ForEachLitSlot(Visit visit) const;
 
     // The unit that stands in a cell and is on the map. Kept by units_on_map.h alone.
     UnitId Standing(Cell cell) const { return standing_[Index(cell)]; }
@@ -127,6 +132,11 @@ class Grid {
 
  private:
     enum class Tone { AsRead, Lit, Shaded };
+    using CellsByArea = std::vector<std::vector<Cell>>;
+
+    // Each cell of the lit areas once, whatever the tone of the rest.
+    template <typename Visit>
+    void ForEachInLitAreas(const CellsByArea& cells, Visit visit) const;
 
     std::size_t Index(Cell cell) const {
         return static_cast<std::size_t>(cell.y) * static_cast<std::size_t>(width_) +
@@ -146,22 +156,38 @@ class Grid {
 };
 
 template <typename Visit>
-void Grid::ForEachLit(Visit visit) const {
-    if (tone_ != Tone::Shaded) {
-        for (int y = 0; y < height_; ++y) {
-            for (int x = 0; x + 1 < width_; ++x) {
-                if (IsLit({x, y})) visit(Cell{x, y});
-            }
-        }
-        return;
-    }
+void Grid::ForEachInLitAreas(const CellsByArea& cells, Visit visit) const {
     AreaSet seen;
     lit_.ForEach([&](int ordinal) {
-        for (Cell cell : CellsOf(ordinal)) {
+        for (Cell cell : cells[static_cast<std::size_t>(ordinal)]) {
             if (!membership_->areasOf[Index(cell)].Meets(seen)) visit(cell);
         }
         seen.Add(ordinal);
     });
+}
+
+template <typename Visit>
+void Grid::ForEachLit(Visit visit) const {
+    if (tone_ == Tone::Shaded) {
+        ForEachInLitAreas(membership_->cellsOf, visit);
+        return;
+    }
+    for (int y = 0; y < height_; ++y) {
+        for (int x = 0; x + 1 < width_; ++x) {
+            if (IsLit({x, y})) visit(Cell{x, y});
+        }
+    }
+}
+
+template <typename Visit>
+void Grid::ForEachLitSlot(Visit visit) const {
+    if (tone_ == Tone::Shaded) {
+        ForEachInLitAreas(membership_->slotsIn, visit);
+        return;
+    }
+    for (Cell slot : membership_->slots) {
+        if (IsLit(slot)) visit(slot);
+    }
 }
 
 }  // namespace varnstride

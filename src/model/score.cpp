@@ -2,6 +2,7 @@
 
 #include "model/areas.h"
 #include "model/units_on_map.h"
+#include "model/who_plays.h"
 
 namespace varnstride {
 namespace {
@@ -109,12 +110,9 @@ ArmyRout FindArmyRout(const GameState& state) {
 void ApplyArmyRoutRule(Game& game) {
     const ArmyRout rout = FindArmyRout(game.state);
     if (rout == ArmyRout::None) return;
-    constexpr int kComputerPlaysFrench = 1;
-    constexpr int kComputerPlaysAllies = 2;
     const Side winner = rout == ArmyRout::AlliesRouted ? Side::French : Side::Allied;
-    Side told = SideOf(game.header.firstPlayer);
-    if (game.state.computerPlays == kComputerPlaysFrench) told = Side::Allied;
-    if (game.state.computerPlays == kComputerPlaysAllies) told = Side::French;
+    const Side told =
+        SideAgainstComputer(game.state.computerPlays).value_or(SideOf(game.header.firstPlayer));
     game.state.victoryScore =
         winner == told ? game.header.majorVictoryLimit : game.header.majorDefeatLimit;
 }

@@ -41,6 +41,7 @@ constexpr int kLineGunsTactics = 571;
 constexpr int kCavalryGunsTactics = 572;
 constexpr int kLightCavalryTactics = 574;
 constexpr int kRotateUnits = 614;
+constexpr int kStartTurn = 636;
 constexpr int kCardReminder = 643;
 constexpr int kLineCavalryLightTactics = 1810;
 constexpr int kLineGunsLightTactics = 1811;
