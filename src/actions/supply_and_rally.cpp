@@ -54,6 +54,12 @@ void ShowUnitRestored(Game& game) {
 
 }  // namespace
 
+void RallyOneStep(Unit& unit) {
+    const bool shaken = unit.status == UnitStatus::Shaken;
+    unit.morale = ShareOf(unit.maxMorale, shaken ? kRalliedFromShaken : kRalliedFromRouted);
+    unit.status = shaken ? UnitStatus::Unsteady : UnitStatus::Shaken;
+}
+
 void TakeOrderAgain(Game& game) {
     Unit& unit = game.InHand();
     game.state.selectedCell = unit.Place();
@@ -95,8 +101,7 @@ void RallyShaken(Game& game) {
         return;
     }
     --game.ArmyInPlay().commandPoints;
-    unit.morale = ShareOf(unit.maxMorale, kRalliedFromShaken);
-    unit.status = UnitStatus::Unsteady;
+    RallyOneStep(unit);
     unit.actionPoints = 0;
     ShowUnitRestored(game);
     if (IsFoot(unit.type)) game.person->Play(Sound::Rally3);
@@ -110,8 +115,7 @@ void RallyRouted(Game& game) {
     const int fullMorale = unit.maxMorale > 0 ? unit.morale / unit.maxMorale : 0;
     unit.actionPoints = 0;
     if (fullMorale * throwOfNerve > 1) {
-        unit.morale = ShareOf(unit.maxMorale, kRalliedFromRouted);
-        unit.status = UnitStatus::Shaken;
+        RallyOneStep(unit);
         TakeOrderAgain(game);
         ShowUnitRestored(game);
         ShowCourier(game, 269);

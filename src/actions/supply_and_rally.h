@@ -15,6 +15,9 @@ void RallyShaken(Game& game);
 // Throws for the unit in hand, which is routed.
 void RallyRouted(Game& game);
 
+// Raises a shaken or routed unit by one status, with the morale that goes with it.
+void RallyOneStep(Unit& unit);
+
 // The unit in hand takes order again, foot in Line and horse in Attack Column, unless its area is
 // built up.
 void TakeOrderAgain(Game& game);

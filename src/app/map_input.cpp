@@ -3,6 +3,7 @@
 #include "actions/courier.h"
 #include "actions/top_bar.h"
 #include "actions/unit_in_hand.h"
+#include "app/card_clicks.h"
 #include "app/guards.h"
 #include "battle/move_order.h"
 #include "flow/map_filters.h"
@@ -108,6 +109,7 @@ void SelectInArea(Game& game) {
     const UnitId unitInHand = game.InHandId();
     LetGoOfUnit(game);
     TakeChargeBack(game.At(unitInHand));
+    ApplyCardToArea(game);
     SelectArea(game);
     TakeLoneUnit(game);
     ShowPanelsOfArea(game);
@@ -185,6 +187,7 @@ void TakeSlotInHand(Game& game, int slot) {
 void OnPanelClick(Game& game, int panel) {
     if (game.state.mapReady == 0) return;
     TakeSlotInHand(game, panel);
+    ApplyCardToSlot(game, panel);
     EndClick(game);
 }
 

@@ -21,6 +21,7 @@ constexpr int kSpeedOfAction = 396;
 constexpr int kStartScreen = 398;
 constexpr int kEndGameStatus = 427;
 constexpr int kScenarioSettings = 452;
+constexpr int kCardDraw = 475;
 constexpr int kAllArmsTactics = 541;
 constexpr int kLightTactics = 566;
 constexpr int kCavalryTactics = 567;

@@ -1,0 +1,81 @@
+#include "app/card_clicks.h"
+
+#include "actions/unit_in_hand.h"
+#include "battle/event_card_table.h"
+#include "model/areas.h"
+#include "model/units_on_map.h"
+
+namespace varnstride {
+namespace {
+
+bool CardWaits(const Game& game) {
+    return game.options.eventCardsOn > 0 && game.state.eventCard > 0 &&
+           game.state.eventCard < kFirstWeatherCard;
+}
+
+const EventCard& WaitingCard(const Game& game) {
+    return EventCardOf(game.state.eventCard);
+}
+
+// The unit of the slot on which a card can fall: not an ally's, nor a wagon.
+UnitId UnitForCard(const Game& game, int slot) {
+    const UnitId id = UnitStandingAt(game, OwnSlot(game, slot - 1));
+    const bool fits = id && id.army == game.state.currentArmy && IsOnMap(game, id) &&
+                      IsFighting(game.At(id).type);
+    return fits ? id : UnitId{};
+}
+
+CardUse PlayOnSlot(Game& game, int slot) {
+    const EventCard& card = WaitingCard(game);
+    const UnitId unit = UnitForCard(game, slot);
+    if (!unit || card.onUnit == nullptr) return CardUse::Spent;
+    game.state.currentUnit = unit.index;
+    return card.onUnit(game);
+}
+
+// Whether any unit profits.
+bool PlayOnWholeArea(Game& game) {
+    bool used = false;
+    for (int slot = 1; slot <= kSlotsPerSide; ++slot) {
+        const UnitId unit = UnitForCard(game, slot);
+        if (!unit) continue;
+        game.state.currentUnit = unit.index;
+        RouseUnit(game);
+        used = true;
+    }
+    return used;
+}
+
+CardUse PlayOnLoneUnit(Game& game) {
+    const int unitInHand = game.state.currentUnit;
+    const CardUse use = PlayOnSlot(game, 1);
+    game.state.currentUnit = unitInHand;
+    return use;
+}
+
+}  // namespace
+
+void ApplyCardToSlot(Game& game, int slot) {
+    if (!CardWaits(game)) return;
+    if (WaitingCard(game).onArea) {
+        PlayOnWholeArea(game);
+    } else if (PlayOnSlot(game, slot) == CardUse::Refused) {
+        return;
+    }
+    game.state.eventCard = 0;
+    ShowUnitPanels(game);
+}
+
+void ApplyCardToArea(Game& game) {
+    if (!CardWaits(game) || game.grid.AreaOf(game.state.selectedCell) == 0) return;
+    SelectArea(game);
+    if (WaitingCard(game).onArea) {
+        if (!PlayOnWholeArea(game)) return;
+    } else if (game.state.ownSlotsFilled != 1 || PlayOnLoneUnit(game) == CardUse::Refused) {
+        return;
+    }
+    game.state.eventCard = 0;
+    game.person->Redraw(View::UnitPanels);
+}
+
+}  // namespace varnstride
