@@ -1,6 +1,7 @@
 #include "app/card_clicks.h"
 
 #include "actions/unit_in_hand.h"
+#include "app/guards.h"
 #include "battle/event_card_table.h"
 #include "model/areas.h"
 #include "model/units_on_map.h"
@@ -8,8 +9,9 @@
 namespace varnstride {
 namespace {
 
+// A card that was not played is lost with the end of the turn, when a mailed turn is locked too.
 bool CardWaits(const Game& game) {
-    return game.options.eventCardsOn > 0 && game.state.eventCard > 0 &&
+    return IsTurnOpen(game) && game.options.eventCardsOn > 0 && game.state.eventCard > 0 &&
            game.state.eventCard < kFirstWeatherCard;
 }
 
@@ -33,24 +35,24 @@ CardUse PlayOnSlot(Game& game, int slot) {
     return card.onUnit(game);
 }
 
-// Whether any unit profits.
-bool PlayOnWholeArea(Game& game) {
-    bool used = false;
+// An area where nobody profits is none for the card.
+CardUse PlayOnWholeArea(Game& game) {
+    CardUse use = CardUse::Refused;
     for (int slot = 1; slot <= kSlotsPerSide; ++slot) {
         const UnitId unit = UnitForCard(game, slot);
         if (!unit) continue;
         game.state.currentUnit = unit.index;
-        RouseUnit(game);
-        used = true;
+        use = RouseUnit(game);
     }
-    return used;
+    return use;
 }
 
 CardUse PlayOnLoneUnit(Game& game) {
-    const int unitInHand = game.state.currentUnit;
-    const CardUse use = PlayOnSlot(game, 1);
-    game.state.currentUnit = unitInHand;
-    return use;
+    return game.state.ownSlotsFilled == 1 ? PlayOnSlot(game, 1) : CardUse::Refused;
+}
+
+bool AttackWaits(const Game& game) {
+    return game.state.bombardmentMode != 0 || game.state.localBattleMode != 0;
 }
 
 }  // namespace
@@ -69,11 +71,11 @@ void ApplyCardToSlot(Game& game, int slot) {
 void ApplyCardToArea(Game& game) {
     if (!CardWaits(game) || game.grid.AreaOf(game.state.selectedCell) == 0) return;
     SelectArea(game);
-    if (WaitingCard(game).onArea) {
-        if (!PlayOnWholeArea(game)) return;
-    } else if (game.state.ownSlotsFilled != 1 || PlayOnLoneUnit(game) == CardUse::Refused) {
-        return;
-    }
+    const int unitInHand = game.state.currentUnit;
+    const bool onArea = WaitingCard(game).onArea;
+    const CardUse use = onArea ? PlayOnWholeArea(game) : PlayOnLoneUnit(game);
+    if (!onArea || AttackWaits(game)) game.state.currentUnit = unitInHand;
+    if (use == CardUse::Refused) return;
     game.state.eventCard = 0;
     game.person->Redraw(View::UnitPanels);
 }
