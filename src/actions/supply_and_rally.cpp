@@ -54,6 +54,12 @@ void ShowUnitRestored(Game& game) {
 
 }  // namespace
 
+void RallyOneStep(Unit& unit) {
+    const bool shaken = unit.status == UnitStatus::Shaken;
+    unit.morale = ShareOf(unit.maxMorale, shaken ? kRalliedFromShaken : kRalliedFromRouted);
+    unit.status = shaken ? UnitStatus::Unsteady : UnitStatus::Shaken;
+}
+
 void TakeOrderAgain(Game& game) {
     Unit& unit = game.InHand();
     game.state.selectedCell = unit.Place();
@@ -64,16 +70,14 @@ void TakeOrderAgain(Game& game) {
 }
 
 void RestoreShaken(Unit& unit) {
-    unit.morale = ShareOf(unit.maxMorale, kRalliedFromShaken);
-    unit.status = UnitStatus::Unsteady;
+    RallyOneStep(unit);
     unit.actionPoints = 0;
 }
 
 bool TryToRestoreRouted(Unit& unit, int throwOfNerve) {
     const int fullMorale = unit.maxMorale > 0 ? unit.morale / unit.maxMorale : 0;
     if (fullMorale * throwOfNerve <= 1) return false;
-    unit.morale = ShareOf(unit.maxMorale, kRalliedFromRouted);
-    unit.status = UnitStatus::Shaken;
+    RallyOneStep(unit);
     unit.actionPoints = 0;
     return true;
 }

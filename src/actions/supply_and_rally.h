@@ -20,6 +20,9 @@ void RallyRouted(Game& game);
 void RestoreShaken(Unit& unit);
 bool TryToRestoreRouted(Unit& unit, int throwOfNerve);
 
+// Raises a shaken or routed unit by one status, with the morale that goes with it.
+void RallyOneStep(Unit& unit);
+
 // The unit in hand takes order again, foot in Line and horse in Attack Column, unless its area is
 // built up.
 void TakeOrderAgain(Game& game);

@@ -123,7 +123,7 @@ constexpr auto kCommands = std::to_array<Command>({
 
 template <int slot>
 void TakeSlot(Game& game) {
-    TakeSlotInHand(game, slot);
+    OnPanelClick(game, slot);
 }
 
 struct KeyStroke {

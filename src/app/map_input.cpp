@@ -3,6 +3,7 @@
 #include "actions/courier.h"
 #include "actions/top_bar.h"
 #include "actions/unit_in_hand.h"
+#include "app/card_clicks.h"
 #include "app/guards.h"
 #include "app/unit_sheet.h"
 #include "battle/barrage.h"
@@ -111,6 +112,7 @@ void SelectInArea(Game& game, Cell clicked) {
     const UnitId unitInHand = game.InHandId();
     LetGoOfUnit(game);
     TakeChargeBack(game.At(unitInHand));
+    ApplyCardToArea(game);
     SelectArea(game);
     TakeLoneUnit(game);
     ShowPanelsOfArea(game);
@@ -190,6 +192,7 @@ void TakeSlotInHand(Game& game, int slot) {
 void OnPanelClick(Game& game, int panel) {
     if (game.state.mapReady == 0) return;
     TakeSlotInHand(game, panel);
+    ApplyCardToSlot(game, panel);
     EndClick(game);
 }
 

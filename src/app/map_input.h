@@ -15,14 +15,15 @@ void OnJumpMapClick(Game& game, Cell cell);
 // A right click on the hex.
 void OnRightClick(Game& game, Cell cell);
 
-// A left click on unit panel 1, 2 or 3.
+// A left click on unit panel 1, 2 or 3, or its number key: takes the unit of the slot in hand, and
+// lays a waiting event card on it.
 void OnPanelClick(Game& game, int panel);
 
 // A right click on unit panel 1, 2 or 3: the sheet of its unit.
 void OnPanelRightClick(Game& game, int panel);
 
-// Takes the unit in own slot 1, 2 or 3 of the area in hand and lights its reach, as a panel and the
-// number keys do.
+// Takes the unit in own slot 1, 2 or 3 of the area in hand and lights its reach, as either button on
+// a panel does.
 void TakeSlotInHand(Game& game, int slot);
 
 // A press of tactical card button 1, 2 or 3.

@@ -105,8 +105,9 @@ void SelectMapCentre(Game& game) {
 
 void TakeCardOfTurn(Game& game) {
     if (game.options.eventCardsOn != 1) return;
+    if (game.state.eventCard < kFirstWeatherCard) DrawEventCard(game);
     ClearCardEffects(game);
-    DrawEventCard(game);
+    if (IsHumanViewer(game)) ShowEventCard(game);
 }
 
 // Nothing is in hand when a person's orders begin.

@@ -53,11 +53,10 @@ std::uint32_t Word(std::int16_t entry) {
 }  // namespace
 
 void RestoreWeatherCard(Game& game) {
-    constexpr int kStrikeCode = 1;
     constexpr int kFirstCardCode = 2;
     constexpr int kLastCardCode = 5;
     const int code = game.options.weatherCardCode;
-    if (code == kStrikeCode) game.state.strikeDrawCard = 1;
+    if (code == kStrikeCardCode) game.state.strikeDrawCard = 1;
     if (code >= kFirstCardCode && code <= kLastCardCode) {
         game.state.eventCard = kFirstWeatherCard + code - kFirstCardCode;
     }

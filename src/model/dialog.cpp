@@ -53,6 +53,10 @@ void Dialog::AddButton(int id, std::string label) {
     controls.push_back({.id = id, .kind = Control::Kind::Button, .text = std::move(label)});
 }
 
+void Dialog::AddPictureButton(int id, int picture) {
+    controls.push_back({.id = id, .kind = Control::Kind::Button, .picture = picture});
+}
+
 void Dialog::Choose(int radio) {
     const int group = At(radio).group;
     for (Control& control : controls) {

@@ -18,6 +18,7 @@ struct Control {
     std::string text{};  // caption of a tick, radio or button; content of label and edit
     int value = 0;       // tick, radio: 0 or 1; list: the chosen line from 0, -1 none
     int group = 0;       // radio only: choosing one puts out the others of its group
+    int picture = 0;     // button only: number of the picture on it; 0 none
     std::vector<std::string> lines{};  // list only
 };
 
@@ -44,6 +45,7 @@ struct Dialog {
     void StartRadioGroup() { ++radioGroup; }
     void AddList(int id, std::vector<std::string> lines);
     void AddButton(int id, std::string label);
+    void AddPictureButton(int id, int picture);
 
     // Ticks a radio, which must be one of the dialog's, as a press on it does.
     void Choose(int radio);

@@ -10,6 +10,7 @@ namespace varnstride {
 
 constexpr int kLabelCount = 30;
 constexpr int kRollLogSize = 2500;
+constexpr int kStrikeCardCode = 1;  // weatherCardCode while an event card changes strikes
 
 struct MapLabel {
     std::array<char, 30> labelText{};

@@ -31,6 +31,7 @@ constexpr int kStartScreen = 398;
 constexpr int kIntelligenceReport = 421;
 constexpr int kEndGameStatus = 427;
 constexpr int kScenarioSettings = 452;
+constexpr int kCardDraw = 475;
 constexpr int kAllArmsTactics = 541;
 constexpr int kLightTactics = 566;
 constexpr int kCavalryTactics = 567;

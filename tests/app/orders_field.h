@@ -20,7 +20,7 @@ inline FieldPlan OrdersPlan() {
 
 // The French turn, 5 Command Points, no fog.
 struct OrdersField : Field {
-    OrdersField() : Field(OrdersPlan()) {
+    explicit OrdersField(const FieldPlan& plan = OrdersPlan()) : Field(plan) {
         game.person = &person;
         game.state.mapReady = 1;
         game.state.turnPhase = TurnPhase::Orders;
