@@ -41,19 +41,17 @@ bool SecondStepServes(const Game& game, const Unit& unit, const AreaLink& link) 
 }
 
 // The areas that the unit in hand reaches from its own.
-std::vector<AreaRow> RowsReached(const Game& game, int own) {
+std::vector<int> AreasReached(const Game& game, int own) {
     const Unit& unit = game.InHand();
-    std::vector<AreaRow> rows;
-    if (game.state.bombardmentMode == 0 && !game.state.ownAreaLeftOut) {
-        rows.push_back(game.atlas->Row(own));
-    }
+    std::vector<int> areas;
+    if (game.state.bombardmentMode == 0 && !game.state.ownAreaLeftOut) areas.push_back(own);
     for (const AreaLink& link : game.atlas->Links()) {
         if (link.from != own) continue;
         if (FirstStepServes(game, unit, link) || SecondStepServes(game, unit, link)) {
-            rows.push_back(game.atlas->Row(link.to));
+            areas.push_back(link.to);
         }
     }
-    return rows;
+    return areas;
 }
 
 bool IsPresent(const Game& game, const Unit& unit) {
@@ -107,20 +105,35 @@ Goal GoalOf(const Game& game) {
 
 }  // namespace
 
-void ScanReach(const Game& game, std::vector<int>& shade) {
+std::vector<int> ScanReach(const Game& game, std::vector<int>& shade) {
     const int own = OrdinalOf(game, game.state.selectedCell);
-    if (own == 0) return;
-    const std::vector<AreaRow> reached = RowsReached(game, own);
+    if (own == 0) return {};
+    const std::vector<int> reached = AreasReached(game, own);
+    std::vector<AreaRow> rows;
+    for (int ordinal : reached)
+        rows.push_back(game.atlas->Row(ordinal));
     for (int y = 0; y < game.grid.Height(); ++y) {
         for (int x = 0; x + 1 < game.grid.Width(); ++x) {
             int& here = shade[static_cast<std::size_t>(y * game.grid.Width() + x)];
             if (!game.state.rangeKeepLit) here = 1;
-            const bool lit = std::any_of(reached.begin(), reached.end(), [&](const AreaRow& row) {
+            const bool lit = std::any_of(rows.begin(), rows.end(), [&](const AreaRow& row) {
                 return BelongsTo(game, {x, y}, row);
             });
             if (lit) here = 0;
         }
     }
+    return reached;
+}
+
+UnitId ScanForUnitAt(const Game& game, Cell cell) {
+    if (cell == kNoCell) return {};
+    for (int army = 0; army < kArmyCount; ++army) {
+        for (int index = 1; index < kUnitsPerArmy; ++index) {
+            const Unit& unit = game.At({army, index});
+            if (unit.Place() == cell && IsPresent(game, unit)) return {army, index};
+        }
+    }
+    return {};
 }
 
 int ScanForEnemyInSlot(const Game& game, Cell cell) {

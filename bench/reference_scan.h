@@ -10,8 +10,11 @@
 namespace varnstride {
 
 // What ShadeReach lights, written into the shade of every cell by rows; the last column is left
-// alone. Nothing is written when selectedCell lies in no area.
-void ScanReach(const Game& game, std::vector<int>& shade);
+// alone. Gives the areas lit; none, and nothing is written, when selectedCell lies in no area.
+std::vector<int> ScanReach(const Game& game, std::vector<int>& shade);
+
+// What UnitStandingAt answers while no unit that is due this turn waits for its placing.
+UnitId ScanForUnitAt(const Game& game, Cell cell);
 
 // What FindEnemyInSlot answers.
 int ScanForEnemyInSlot(const Game& game, Cell cell);

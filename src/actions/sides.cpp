@@ -3,6 +3,7 @@
 namespace varnstride {
 
 bool IsComputerSide(int computerSide, int army) {
+    if (computerSide == kComputerPlaysBoth) return true;
     return SideOf(army) == Side::French ? computerSide == kComputerPlaysFrench
                                         : computerSide == kComputerPlaysAllies;
 }

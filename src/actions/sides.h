@@ -7,6 +7,7 @@ namespace varnstride {
 
 constexpr int kComputerPlaysFrench = 1;
 constexpr int kComputerPlaysAllies = 2;
+constexpr int kComputerPlaysBoth = 3;  // nobody is a person; no dialog offers this
 
 // Whether the computer would play the side of that army.
 bool IsComputerSide(int computerSide, int army);

@@ -3,15 +3,21 @@
 #include <algorithm>
 #include <array>
 
+#include "app/army_listing.h"
+#include "app/artillery_orders.h"
 #include "app/care_orders.h"
 #include "app/display_options.h"
 #include "app/file_menu.h"
 #include "app/formation_dialog.h"
 #include "app/map_input.h"
+#include "app/objectives_dialog.h"
+#include "app/reinforcement_lists.h"
 #include "app/status_dialogs.h"
+#include "app/strength_dialog.h"
 #include "app/turn_menu.h"
 #include "app/unit_groups.h"
 #include "app/unit_orders.h"
+#include "battle/barrage.h"
 #include "flow/battle_options.h"
 #include "flow/command_report.h"
 #include "flow/save_battle.h"
@@ -20,6 +26,13 @@ namespace varnstride {
 namespace {
 
 using Handler = void (*)(Game&);
+
+// An order to a unit is given with no gun aimed.
+template <Handler order>
+void Order(Game& game) {
+    LayAimDown(game);
+    order(game);
+}
 
 enum class Needs { Nothing, Battle };
 
@@ -37,7 +50,7 @@ constexpr auto kCommands = std::to_array<Command>({
     {1051, Exit, Needs::Nothing},
     // Turn
     {32858, EndTurnByPlayer},
-    {33000, UndoByCommand},
+    {33000, Order<UndoByCommand>},
     {33005, PrepareLocalBattle},
     {32978, AskEndGameStatus},
     {33006, CancelEventCard},
@@ -45,20 +58,31 @@ constexpr auto kCommands = std::to_array<Command>({
     {33013, CancelLocalBattle},
     // Units
     {32875, PrepareCavalryCharge},
-    {33002, PrepareBayonetCharge},
-    {32778, DoubleTime},
-    {33001, HoldUnit},
-    {33003, Resupply},
-    {32774, RotateUnits},
-    {32781, LeaveMap},
-    {32921, DetachFormation},
-    {32997, RejoinDetachment},
-    {32930, RallyAndReform},
-    {32979, ChangeFormationByCommand},
+    {33002, Order<PrepareBayonetCharge>},
+    {32778, Order<DoubleTime>},
+    {33001, Order<HoldUnit>},
+    {33003, Order<Resupply>},
+    {32774, Order<RotateUnits>},
+    {32781, Order<LeaveMap>},
+    {32921, Order<DetachFormation>},
+    {32997, Order<RejoinDetachment>},
+    {33020, Order<AimUnitInHand>},
+    {32784, Order<ChooseGunToAim>},
+    {32930, Order<RallyAndReform>},
+    {32979, Order<ChangeFormationByCommand>},
     {33008, CancelAction},
+    // Reinforce
+    {32790, ShowReinforcementSchedule},
+    {32791, ShowArrivedUnits},
+    {32792, ShowReleaseSchedule},
     // Status
+    {32793, ShowStrength},
+    {32962, ShowArmyUnitListing},
     {32970, ShowCommandReport},
+    {32974, ShowIntelligence},
+    {32794, ShowObjectives},
     {32795, ShowVictory},
+    {32960, ShowRemovedUnits},
     {32890, ShowScenarioDescription},
     {32897, ShowScenarioInformation},
     {32995, ShowScenarioSettings},
@@ -113,16 +137,17 @@ constexpr auto kKeys = std::to_array<KeyStroke>({
     {Key::One, TakeSlot<1>},
     {Key::Two, TakeSlot<2>},
     {Key::Three, TakeSlot<3>},
+    {Key::A, ShowStrength},
     {Key::B, ToggleOutOfCommandFilter},
     {Key::C, ToggleSetting<&Settings::armyColours>},
     {Key::D, ToggleCommandRange},
     {Key::E, CancelEventCardByKey},
-    {Key::F, ChangeFormationByKey},
+    {Key::F, Order<ChangeFormationByKey>},
     {Key::I, ToggleUnitPanels},
     {Key::J, ToggleMiniMapByKey},
     {Key::L, ToggleMapFilter<&GameState::highlightLeaders>},
     {Key::R, ToggleMapFilter<&GameState::highlightRouted>},
-    {Key::U, UndoByKey},
+    {Key::U, Order<UndoByKey>},
     {Key::V, ShowVictory},
     {Key::F1, ShowZoomOutView},
     {Key::F2, ShowNormalView},

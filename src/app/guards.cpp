@@ -3,6 +3,7 @@
 #include <string>
 
 #include "actions/courier.h"
+#include "model/units_on_map.h"
 
 namespace varnstride {
 
@@ -18,7 +19,7 @@ bool IsTurnOpen(const Game& game) {
 }
 
 bool HasUnitInHand(const Game& game) {
-    return game.state.selectedSlot > 0 && game.state.currentUnit > 0;
+    return game.state.selectedSlot > 0 && IsOnMap(game, game.InHandId());
 }
 
 void Refuse(Game& game, std::string_view caption, std::string_view text) {

@@ -14,7 +14,7 @@ bool HasCommandPoints(Game& game);
 // Whether orders can still be given this turn.
 bool IsTurnOpen(const Game& game);
 
-// Whether a unit has been chosen from its area.
+// Whether a unit on the map has been chosen from its area.
 bool HasUnitInHand(const Game& game);
 
 // The refusal sound, then a message.

@@ -5,6 +5,8 @@
 #include "actions/unit_in_hand.h"
 #include "app/card_clicks.h"
 #include "app/guards.h"
+#include "battle/barrage.h"
+#include "battle/called_attack.h"
 #include "battle/move_order.h"
 #include "flow/map_filters.h"
 #include "model/areas.h"
@@ -105,7 +107,7 @@ void EndHopelessLocalBattle(Game& game) {
     ShowCourier(game, 286);
 }
 
-void SelectInArea(Game& game) {
+void SelectInArea(Game& game, Cell clicked) {
     const UnitId unitInHand = game.InHandId();
     LetGoOfUnit(game);
     TakeChargeBack(game.At(unitInHand));
@@ -115,6 +117,7 @@ void SelectInArea(Game& game) {
     ShowPanelsOfArea(game);
     ShadeForArea(game);
     if (game.ArmyInPlay().commandPoints == 0) game.person->Play(Sound::Ding);
+    FightCalledAttack(game, clicked);
     EndHopelessLocalBattle(game);
 }
 
@@ -128,7 +131,7 @@ void ClickOn(Game& game, Cell cell) {
     game.person->Redraw(View::InfoBar);
     if (state.mapScrolledByJump != 0) game.person->Redraw(View::CentreOnSelected);
     DrawTopBar(game);
-    if (state.turnPhase == TurnPhase::Orders) SelectInArea(game);
+    if (state.turnPhase == TurnPhase::Orders) SelectInArea(game, cell);
     if (IsTurnOpen(game)) game.turnLog.turnInProgress = 1;
     EndClick(game);
 }
@@ -178,6 +181,7 @@ void OnRightClick(Game& game, Cell cell) {
 }
 
 void TakeSlotInHand(Game& game, int slot) {
+    LayAimDown(game);
     game.state.selectedSlot = slot;
     if (game.state.battlePassRunning != 0) return;
     ShowUnitPanels(game);

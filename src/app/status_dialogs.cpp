@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "actions/courier.h"
 #include "battle/weather.h"
 #include "model/score.h"
 #include "resources/army_names.h"
@@ -131,6 +132,19 @@ void ShowVictory(Game& game) {
     dialog.AddLabel(1231, std::string(LevelOfArmyInPlay(game)));
     dialog.AddLabel(1402, std::string(ArmyName(game.state.currentArmy)));
     AddOkAndCancel(dialog);
+    game.person->Ask(dialog);
+}
+
+void ShowIntelligence(Game& game) {
+    constexpr int kNoReport = 19;
+    if (game.ArmyInPlay().hasGroupAssignments != 1) {
+        ShowCourier(game, kNoReport);
+        return;
+    }
+    const auto army = static_cast<std::size_t>(game.state.currentArmy);
+    Dialog dialog{.templateId = kIntelligenceReport, .caption = "Intelligence Report"};
+    dialog.AddLabel(1402, game.briefings[army].text.data());
+    dialog.AddButton(kOk, "OK");
     game.person->Ask(dialog);
 }
 

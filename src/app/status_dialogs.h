@@ -9,6 +9,9 @@ namespace varnstride {
 // Losses, objectives, limits and the level of victory, the score made afresh.
 void ShowVictory(Game& game);
 
+// What the army in play was told before the battle, or that it was told nothing.
+void ShowIntelligence(Game& game);
+
 void ShowScenarioDescription(Game& game);
 void ShowScenarioInformation(Game& game);  // clock, weather, ground
 void ShowScenarioSettings(Game& game);

@@ -7,6 +7,7 @@
 #include "actions/undo.h"
 #include "app/file_menu.h"
 #include "app/guards.h"
+#include "battle/barrage.h"
 #include "model/census.h"
 
 namespace varnstride {
@@ -60,6 +61,7 @@ void LookForLocalBattle(Game& game) {
         CensusEnemy(game);
         if (game.census.enemyCount > 0) {
             game.state.localBattleMode = 1;
+            game.waiting.heldUnit = game.state.currentUnit;
             return;
         }
     }
@@ -155,7 +157,7 @@ void CancelEventCardByKey(Game& game) {
 }
 
 void CancelBarrage(Game& game) {
-    game.state.bombardmentMode = 0;
+    LayAimDown(game);
 }
 
 void CancelLocalBattle(Game& game) {

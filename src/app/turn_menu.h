@@ -16,6 +16,7 @@ void PrepareLocalBattle(Game& game);
 
 void CancelEventCard(Game& game);
 void CancelEventCardByKey(Game& game);
+// Puts the aimed gun's Action Points back.
 void CancelBarrage(Game& game);
 void CancelLocalBattle(Game& game);
 // Everything that waits for a target, the charge order of the unit in hand included.

@@ -36,13 +36,9 @@ bool HasOwnUnits(const Census& census) {
 // Whether the army has anybody in the areas that are lit.
 bool FindsFriends(Game& game) {
     bool found = false;
-    AreaSet seen;
-    game.grid.ForEachLit([&](Cell cell) {
-        const int ordinal = game.grid.AreaOf(cell);
-        if (found || seen.Has(ordinal)) return;
-        seen.Add(ordinal);
-        game.state.targetCell = cell;
-        CensusOwnAtTarget(game);
+    game.grid.LitAreas().ForEach([&](int ordinal) {
+        if (found) return;
+        CensusOwnOf(game, ordinal);
         found = HasOwnUnits(game.census);
     });
     return found;
@@ -52,12 +48,10 @@ bool FindsFriends(Game& game) {
 // next door.
 void AddSupport(StrikeLedger& ledger, Game& game) {
     const Cell selected = game.state.selectedCell;
-    const Cell target = game.state.targetCell;
     game.state.selectedCell = game.InHand().Place();
     ShadeReachWith(game, 1);
     if (!FindsFriends(game)) ledger.Scale("No support within one area", 0.5);
     game.state.selectedCell = selected;
-    game.state.targetCell = target;
 }
 
 void AddBase(StrikeLedger& ledger, const Pairing& pair) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "actions/sides.h"
+#include "battle/barrage.h"
 #include "battle/battle_pass.h"
 #include "battle/event_cards.h"
 #include "battle/morale.h"
@@ -47,7 +48,6 @@ void ClearOrders(Game& game) {
     state.currentUnit = 0;
     state.stopClockSeconds = 0;
     game.undo.undoAvailable = 0;
-    state.bombardmentMode = 0;
     state.leavingContact = false;
     ClearCardEffects(game);
     game.turnLog.reserved = 0;
@@ -108,6 +108,7 @@ void ClearLog(Game& game) {
 void RunEndOfTurn(Game& game) {
     GameState& state = game.state;
     state.endingArmy = state.currentArmy;
+    LayAimDown(game);
     if (ByEmail(game)) TakeBeforePass(game);
     game.header.passMode = kRecord;
     state.rollCursor = 0;

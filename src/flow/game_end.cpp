@@ -43,6 +43,7 @@ bool IsDraw(const Game& game) {
 
 bool SpeaksToFirstSide(const Game& game) {
     const Side first = SideOf(game.header.firstPlayer);
+    if (game.state.computerPlays == kComputerPlaysBoth) return true;
     if (game.state.computerPlays == 0) return SideOf(game.header.savedArmy) == first;
     const Side player =
         game.state.computerPlays == kComputerPlaysFrench ? Side::Allied : Side::French;

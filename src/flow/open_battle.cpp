@@ -162,6 +162,7 @@ void ClearState(Game& game) {
     fresh.combatBoxTimer = game.state.combatBoxTimer;
     game.state = fresh;
     game.undo = {};
+    game.waiting = {};
     game.census = {};
     game.battle = {};
     game.turnLog.turnInProgress = 0;

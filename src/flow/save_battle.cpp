@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "battle/barrage.h"
 #include "files/battle_file.h"
 #include "flow/turn_effects.h"
 #include "flow/two_players.h"
@@ -91,6 +92,7 @@ void AskAndWrite(Game& game) {
 }  // namespace
 
 void SaveBattleFile(Game& game) {
+    LayAimDown(game);
     const bool exchanged = IsFinishedMailedTurn(game);
     if (exchanged) ExchangeForSave(game);
     if (Write(game, game.filePath)) {
@@ -101,6 +103,7 @@ void SaveBattleFile(Game& game) {
 }
 
 void SaveBattleFileAs(Game& game) {
+    LayAimDown(game);
     game.state.fileNameKnown = 1;
     const bool exchanged = IsFinishedMailedTurn(game);
     if (exchanged) ExchangeForSave(game);

@@ -110,17 +110,6 @@ void TakeCardOfTurn(Game& game) {
     if (IsHumanViewer(game)) ShowEventCard(game);
 }
 
-void LetComputerPlay(Game& game) {
-    if (!IsComputerTurn(game)) return;
-    ClearMoveMarks(game);
-    game.person->Redraw(View::NoUnitPanels);
-    game.person->Redraw(View::Frame);
-    RunOpponentTurn(game);
-    game.grid.LightAll();
-    ClearMoveMarks(game);
-    game.state.turnPhase = TurnPhase::EndTurn;
-}
-
 // Nothing is in hand when a person's orders begin.
 void BeginOrders(Game& game) {
     GameState& state = game.state;
@@ -160,6 +149,17 @@ void RunStartOfTurn(Game& game) {
     DrawTopBar(game);
     LetComputerPlay(game);
     if (game.state.turnPhase == TurnPhase::StartTurn) BeginOrders(game);
+}
+
+void LetComputerPlay(Game& game) {
+    if (!IsComputerTurn(game)) return;
+    ClearMoveMarks(game);
+    game.person->Redraw(View::NoUnitPanels);
+    game.person->Redraw(View::Frame);
+    RunOpponentTurn(game);
+    game.grid.LightAll();
+    ClearMoveMarks(game);
+    game.state.turnPhase = TurnPhase::EndTurn;
 }
 
 }  // namespace varnstride

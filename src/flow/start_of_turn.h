@@ -8,4 +8,7 @@ namespace varnstride {
 // All steps in one pass; the phase becomes Orders, or EndTurn after the computer has played.
 void RunStartOfTurn(Game& game);
 
+// When the computer commands the army in play: plays its turn and goes on to its end.
+void LetComputerPlay(Game& game);
+
 }  // namespace varnstride

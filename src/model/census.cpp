@@ -125,7 +125,10 @@ void CensusEnemy(Game& game) {
 
 void CensusOwnAtTarget(Game& game) {
     const int ordinal = game.grid.AreaOf(game.state.targetCell);
-    if (ordinal == 0) return;
+    if (ordinal > 0) CensusOwnOf(game, ordinal);
+}
+
+void CensusOwnOf(Game& game, int ordinal) {
     Census& census = game.census;
     census.ownGuns = census.ownCavalry = census.ownLine = census.ownLeaders = 0;
     const AreaSlots slots = game.atlas->Row(ordinal).Slots();

@@ -13,6 +13,8 @@ void CensusEnemy(Game& game);
 
 // Counts the units of currentArmy in the own slots of the area of targetCell.
 void CensusOwnAtTarget(Game& game);
+// The same for an area named by its ordinal.
+void CensusOwnOf(Game& game, int ordinal);
 
 // The lit cell nearest to where the army of the unit in hand makes for, turned into the first slot
 // of its side in that area: advanceResultCell, (0, 0) when nothing is found. selectedCell and

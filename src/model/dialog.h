@@ -25,6 +25,7 @@ struct Control {
 struct Dialog {
     int templateId = 0;
     std::string caption{};
+    std::string heading{};  // fixed words over the controls
     std::vector<Control> controls{};
     int closedBy = 0;  // set by the person: the control that closed it; 0 closed without an answer
 

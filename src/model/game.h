@@ -50,6 +50,7 @@ struct Game {
     Census census;
     BattleState battle;
     UndoRecord undo;
+    WaitingAttack waiting;
     Generator generator;
 
     Settings settings;

@@ -138,6 +138,14 @@ struct UndoRecord {
     int undoWasDisrupted = 0;
 };
 
+// What a barrage or a Do Battle that waits for its area must give back. No file carries it: saving
+// lays an aim down.
+struct WaitingAttack {
+    int heldUnit = 0;  // in hand before the order; 0 none
+    UnitId gun;        // the one aimed; none while no gun is
+    int gunActionPoints = 0;
+};
+
 // What the last census of an area found.
 struct Census {
     int enemyCount = 0;

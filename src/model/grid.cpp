@@ -28,6 +28,13 @@ AreaMembership MembershipOf(int width, int height, const std::vector<GroundCell>
             }
         }
     }
+    membership.areasIn.resize(membership.cellsOf.size());
+    for (std::size_t ordinal = 1; ordinal < membership.cellsOf.size(); ++ordinal) {
+        for (Cell cell : membership.cellsOf[ordinal]) {
+            const auto index = static_cast<std::size_t>(cell.y * width + cell.x);
+            membership.areasIn[ordinal].Add(membership.areaOf[index]);
+        }
+    }
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
             const auto index = static_cast<std::size_t>(y * width + x);
@@ -116,6 +123,19 @@ int Grid::Shade(Cell cell) const {
         case Tone::AsRead: break;
     }
     return (*shadeAsRead_)[Index(cell)];
+}
+
+AreaSet Grid::LitAreas() const {
+    AreaSet areas;
+    if (tone_ == Tone::Shaded) {
+        lit_.ForEach(
+            [&](int ordinal) { areas |= membership_->areasIn[static_cast<std::size_t>(ordinal)]; });
+        return areas;
+    }
+    ForEachLit([&](Cell cell) {
+        if (AreaOf(cell) != 0) areas.Add(AreaOf(cell));
+    });
+    return areas;
 }
 
 void Grid::LightPlayable() {

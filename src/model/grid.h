@@ -67,6 +67,7 @@ struct AreaMembership {
     std::vector<AreaSet> areasOf;            // by cell: every row that it fits
     std::vector<std::uint8_t> areaOf;        // by cell: the last row that it fits, 0 none
     std::vector<std::vector<Cell>> cellsOf;  // by ordinal: columns 0 to width - 2, by rows
+    std::vector<AreaSet> areasIn;            // by ordinal: what areaOf names in those cells
     std::vector<Cell> objectives;            // every cell with an objective value, by rows
 };
 
@@ -112,6 +113,8 @@ class Grid {
     // Calls visit(cell) once for every lit cell of columns 0 to width - 2, in no promised order.
     template <typename Visit>
     void ForEachLit(Visit visit) const;
+    // The areas that AreaOf names in the lit cells of columns 0 to width - 2.
+    AreaSet LitAreas() const;
 
     // The unit that stands in a cell and is on the map. Kept by units_on_map.h alone.
     UnitId Standing(Cell cell) const { return standing_[Index(cell)]; }

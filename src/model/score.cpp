@@ -110,11 +110,11 @@ void ApplyArmyRoutRule(Game& game) {
     const ArmyRout rout = FindArmyRout(game.state);
     if (rout == ArmyRout::None) return;
     constexpr int kComputerPlaysFrench = 1;
+    constexpr int kComputerPlaysAllies = 2;
     const Side winner = rout == ArmyRout::AlliesRouted ? Side::French : Side::Allied;
     Side told = SideOf(game.header.firstPlayer);
-    if (game.state.computerPlays > 0) {
-        told = game.state.computerPlays == kComputerPlaysFrench ? Side::Allied : Side::French;
-    }
+    if (game.state.computerPlays == kComputerPlaysFrench) told = Side::Allied;
+    if (game.state.computerPlays == kComputerPlaysAllies) told = Side::French;
     game.state.victoryScore =
         winner == told ? game.header.majorVictoryLimit : game.header.majorDefeatLimit;
 }

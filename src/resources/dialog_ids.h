@@ -3,10 +3,17 @@
 
 namespace varnstride {
 
+constexpr int kStrength = 143;
 constexpr int kCommandReport = 144;
+constexpr int kArrived = 145;
+constexpr int kObjectives = 148;
 constexpr int kVictory = 149;
+constexpr int kBombardmentList = 150;
+constexpr int kUnitSheet = 223;
 constexpr int kBattleResult = 245;
 constexpr int kGameEnd = 269;
+constexpr int kReleaseSchedule = 274;
+constexpr int kReinforcementSchedule = 275;
 constexpr int kScenarioOptions = 302;
 constexpr int kSetPassword = 304;
 constexpr int kPasswordCheck = 305;
@@ -17,8 +24,11 @@ constexpr int kRoutedUnitReport = 338;
 constexpr int kSurrenderedUnitReport = 341;
 constexpr int kFormationChange = 342;
 constexpr int kDetachFormation = 364;
+constexpr int kRemovedUnits = 388;
+constexpr int kArmyUnitListing = 395;
 constexpr int kSpeedOfAction = 396;
 constexpr int kStartScreen = 398;
+constexpr int kIntelligenceReport = 421;
 constexpr int kEndGameStatus = 427;
 constexpr int kScenarioSettings = 452;
 constexpr int kCardDraw = 475;

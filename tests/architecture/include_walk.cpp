@@ -30,7 +30,7 @@ const std::vector<Floor>& Floors() {
         {"flow", {"model", "resources", "actions", "battle", "opponent", "files"}},
         {"app", {"model", "resources", "actions", "battle", "opponent", "files", "flow"}},
         {"forge", {"model", "files"}},
-        {"display", {"model", "resources", "app"}},
+        {"display", {"model", "resources", "actions", "app"}},
         {"sound", {"model", "resources"}},
         {"platform",
          {"model", "resources", "actions", "battle", "opponent", "files", "flow", "app", "forge",

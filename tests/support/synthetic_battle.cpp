@@ -160,16 +160,37 @@ void ScribbleOver(Scribbler& scribbler, BattleFile& file) {
     if (file.armies[kFrench].hasGroupAssignments == 1) scribbler.FillRecords(file.briefings);
 }
 
-}  // namespace
-
-std::unique_ptr<Field> MakeLargeBattle() {
-    std::mt19937 chance(1815);
+std::unique_ptr<Field> MakeLargeField(std::mt19937& chance) {
     FieldPlan plan;
     plan.columns = kColumns;
     plan.rows = kRows;
     plan.areaHeight = kAreaHeight;
     plan.links = Links(chance);
-    auto field = std::make_unique<Field>(plan);
+    return std::make_unique<Field>(plan);
+}
+
+}  // namespace
+
+std::unique_ptr<Field> MakeLargeMelee() {
+    constexpr int kUnitsASide = 300;
+    constexpr UnitType kArms[] = {UnitType::LineInfantry, UnitType::LightInfantry,
+                                  UnitType::LineInfantry, UnitType::LightCavalry,
+                                  UnitType::FieldArtillery};
+    std::mt19937 chance(1815);
+    auto field = MakeLargeField(chance);
+    for (int army : {kFrench, kPrussian}) {
+        for (int unit = 0; unit < kUnitsASide; ++unit) {
+            const UnitType arm = kArms[static_cast<std::size_t>(unit) % std::size(kArms)];
+            field->Add(army, unit / kSlotsPerSide + 1, unit % kSlotsPerSide + 1, MakeUnit(arm));
+        }
+    }
+    MakeSavable(field->game);
+    return field;
+}
+
+std::unique_ptr<Field> MakeLargeBattle() {
+    std::mt19937 chance(1815);
+    auto field = MakeLargeField(chance);
     FillArmies(chance, *field);
     field->game.state.currentUnit = 1;
     field->game.state.roadMover = true;

@@ -14,6 +14,10 @@ namespace varnstride {
 // and the others have yet to come. A French gun is in hand.
 std::unique_ptr<Field> MakeLargeBattle();
 
+// The same map with 300 units a side of all arms, three to an area and steady, in contact in 100
+// areas, the army in play the French.
+std::unique_ptr<Field> MakeLargeMelee();
+
 // Gives a field that a test has laid out what a file needs besides: a clock, the armies' turns, a
 // direction of advance. It is turn 1 of 9, and the French move first.
 void MakeSavable(Game& game);

@@ -6,13 +6,11 @@
 
 #include "atlases/built_in.h"
 #include "battle/forecast.h"
-#include "files/battle_file.h"
-#include "flow/armies_arrived.h"
-#include "model/units_on_map.h"
 #include "platform/headless/fresh_game.h"
 #include "resources/army_names.h"
 #include "resources/courier_texts.h"
 #include "resources/type_names.h"
+#include "sim/position.h"
 #include "sim/subcommands.h"
 
 namespace varnstride::sim {
@@ -34,17 +32,6 @@ AttackPlan PlanOf(const Question& question) {
                     .bombard = question.bombard};
     if (question.tactic >= 0) plan.tactics = TacticsPlayed{question.tactic, question.response};
     return plan;
-}
-
-// The position as it stands in the file, without what the opening of a battle does to it.
-void Open(Game& game, const std::string& path) {
-    const Result<BattleFile> file = ReadBattleFile(path, *game.atlases);
-    if (!file.Ok()) throw Refusal(file.Message());
-    PutIntoGame(file.Get(), FileKind::Battle, game);
-    game.state.gameTurn = game.header.savedTurn;
-    game.state.turnCursor = game.state.currentArmy = game.header.savedArmy;
-    game.state.unitLimit = kUnitsPerArmy;
-    FindStandingUnits(game, ArmiesArrived(game));
 }
 
 std::string StatusName(UnitStatus status) {
@@ -120,7 +107,7 @@ void PrintDispatches(const std::vector<Chance<int>>& dispatches) {
 void Explain(const Question& question) {
     SilentPerson nobody;
     Game game = FreshGame(BuiltInAtlases(), nobody, HeadlessSettings());
-    Open(game, question.file);
+    OpenPosition(game, question.file);
     const AttackPlan plan = PlanOf(question);
     const Result<AttackForecast> result = ForecastAttack(game, plan);
     if (!result.Ok()) throw Refusal(question.file + ": " + result.Message());

@@ -24,12 +24,16 @@ int main(int argumentCount, char** arguments) {
         "Plays Varnstride without a screen: the same rules, files, commands and clicks as "
         "in the window, with every dialog answered from a script."};
     app.require_subcommand(1);
-    app.footer("Exit status: 0 done; 2 a script, a file or an argument is wrong.");
+    app.footer(
+        "Exit status: 0 done; 2 a script, a file or an argument is wrong; 3 a duel broke a "
+        "record.");
     AddRun(app);
     AddAtlas(app);
     AddDump(app);
     AddExplain(app);
-    AddSignature(app, arguments[0]);
+    AddDuel(app);
+    AddPicture(app);
+    AddSignature(app);
     try {
         app.parse(argumentCount, arguments);
     } catch (const CLI::ParseError& error) {

@@ -1,7 +1,6 @@
 // varnstride-sim signature: plays a fixed set of battles, orders and answers drawn from fixed
 // seeds, and boils all their positions down to one number. It changes when any rule does.
 #include <algorithm>
-#include <array>
 #include <iomanip>
 #include <iostream>
 #include <memory>
@@ -10,6 +9,7 @@
 #include "atlases/built_in.h"
 #include "platform/headless/random_player.h"
 #include "platform/headless/state_hash.h"
+#include "sim/data_folder.h"
 #include "sim/subcommands.h"
 
 namespace varnstride::sim {
@@ -20,19 +20,6 @@ namespace fs = std::filesystem;
 constexpr unsigned kFirstSeed = 1815;
 constexpr unsigned kGames = 3;  // of each scenario
 constexpr int kSteps = 600;     // inputs and passes of a game
-
-// Where scenarios stand, seen from the folder of the program: installed, in a build, beside it.
-constexpr std::array kFolders = {"../share/varnstride/Scenarios", "../data/Scenarios", "Scenarios"};
-
-fs::path ScenarioFolder(const fs::path& program) {
-    std::error_code error;
-    const fs::path self = fs::read_symlink("/proc/self/exe", error);
-    const fs::path home = (error ? fs::absolute(program) : self).parent_path();
-    for (const char* folder : kFolders) {
-        if (fs::is_directory(home / folder, error)) return (home / folder).lexically_normal();
-    }
-    throw Refusal("no folder of scenarios beside " + home.string() + "; name one by --scenarios");
-}
 
 std::vector<fs::path> ScenariosOf(const fs::path& folder) {
     std::vector<fs::path> scenarios;
@@ -69,14 +56,13 @@ void Print(const fs::path& folder) {
 
 }  // namespace
 
-void AddSignature(CLI::App& app, const fs::path& program) {
+void AddSignature(CLI::App& app) {
     CLI::App* command = app.add_subcommand(
         "signature", "Plays a fixed set of battles and prints one number for all of them");
     const auto folder = std::make_shared<fs::path>();
     command->add_option("--scenarios", *folder,
                         "The folder of the scenarios; by default the game's own");
-    command->callback(
-        [folder, program] { Print(folder->empty() ? ScenarioFolder(program) : *folder); });
+    command->callback([folder] { Print(folder->empty() ? DataFolder() / "Scenarios" : *folder); });
 }
 
 }  // namespace varnstride::sim

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <CLI/CLI.hpp>
-#include <filesystem>
 #include <stdexcept>
 #include <string>
 
@@ -20,6 +19,8 @@ void AddRun(CLI::App& app);
 void AddAtlas(CLI::App& app);
 void AddDump(CLI::App& app);
 void AddExplain(CLI::App& app);
-void AddSignature(CLI::App& app, const std::filesystem::path& program);
+void AddDuel(CLI::App& app);
+void AddPicture(CLI::App& app);
+void AddSignature(CLI::App& app);
 
 }  // namespace varnstride::sim
