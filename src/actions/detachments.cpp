@@ -136,9 +136,18 @@ constexpr std::array<MilitiaPlace, 9> kMilitiaPlaces = {{
     {kPrussian, 8, {{{19, 8}, {16, 8}, {16, 5}, {13, 2}, {16, 2}, {13, 5}}}},
 }};
 
+// A unit that stood outside the slots of the battlefield's areas could not be saved.
+bool IsAreaOfMap(const Game& game, const AreaSlots& slots) {
+    for (int ordinal = 1; ordinal <= game.atlas->AreaCount(); ++ordinal) {
+        if (game.atlas->Row(ordinal).Slots() == slots) return true;
+    }
+    return false;
+}
+
 const MilitiaPlace* FindMilitiaPlace(const Game& game) {
     for (const MilitiaPlace& place : kMilitiaPlaces) {
-        if (place.army == game.state.currentArmy && place.map == game.header.mapNumber) {
+        if (place.army == game.state.currentArmy && place.map == game.header.mapNumber &&
+            IsAreaOfMap(game, place.slots)) {
             return &place;
         }
     }

@@ -90,7 +90,7 @@ TEST(EventCardDraw, ThrowsNoDieWhereTheArmyHasNoDeck) {
 
 // Four units on the map and four that have not come, or have left, under records 1 to 8.
 struct PressField : Field {
-    PressField() : Field(OnMap(5)) {
+    explicit PressField(int map = 5) : Field(OnMap(map)) {
         game.person = &person;
         Stand(1, MakeUnit(UnitType::GuardInfantry), Quality::Veteran);
         Stand(2, MakeUnit(UnitType::Lancers), Quality::Experienced);
@@ -204,8 +204,8 @@ TEST(EventCardPress, SetsEffectsThatEndWithTheTurn) {
 }
 
 TEST(EventCardPress, RaisesNoMilitiaWithoutAPlaceForIt) {
-    for (int card : {9, 21, 33}) {
-        PressField field;
+    for (const auto& [card, map] : {std::pair{9, 5}, {33, 6}, {9, 4}}) {  // 4: not on this ground
+        PressField field(map);
         const ArmyUnits before = field.game.units[kFrench];
         field.Press(card);
         EXPECT_EQ(field.game.units[kFrench], before);
