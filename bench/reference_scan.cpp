@@ -41,19 +41,17 @@ bool SecondStepServes(const Game& game, const Unit& unit, const AreaLink& link) 
 }
 
 // The areas that the unit in hand reaches from its own.
-std::vector<AreaRow> RowsReached(const Game& game, int own) {
+std::vector<int> AreasReached(const Game& game, int own) {
     const Unit& unit = game.InHand();
-    std::vector<AreaRow> rows;
-    if (game.state.bombardmentMode == 0 && !game.state.ownAreaLeftOut) {
-        rows.push_back(game.atlas->Row(own));
-    }
+    std::vector<int> areas;
+    if (game.state.bombardmentMode == 0 && !game.state.ownAreaLeftOut) areas.push_back(own);
     for (const AreaLink& link : game.atlas->Links()) {
         if (link.from != own) continue;
         if (FirstStepServes(game, unit, link) || SecondStepServes(game, unit, link)) {
-            rows.push_back(game.atlas->Row(link.to));
+            areas.push_back(link.to);
         }
     }
-    return rows;
+    return areas;
 }
 
 bool IsPresent(const Game& game, const Unit& unit) {
@@ -70,6 +68,15 @@ int EnemyArmyBy(const Game& game, Cell firstSlot) {
     if (map == 3 || map == 4 || map == 8) return 3;
     if (map != 7) return -1;
     return occupant == 2 ? 1 : occupant == 4 ? 3 : -1;
+}
+
+void ClearEnemyCounts(Census& census) {
+    const Census before = census;
+    census = {};
+    census.ownGuns = before.ownGuns;
+    census.ownCavalry = before.ownCavalry;
+    census.ownLine = before.ownLine;
+    census.ownLeaders = before.ownLeaders;
 }
 
 void Count(const Unit& unit, Census& census) {
@@ -107,20 +114,21 @@ Goal GoalOf(const Game& game) {
 
 }  // namespace
 
-void ScanReach(const Game& game, std::vector<int>& shade) {
+std::vector<int> ScanReach(const Game& game, std::vector<int>& shade) {
     const int own = OrdinalOf(game, game.state.selectedCell);
-    if (own == 0) return;
-    const std::vector<AreaRow> reached = RowsReached(game, own);
+    if (own == 0) return {};
+    const std::vector<int> reached = AreasReached(game, own);
     for (int y = 0; y < game.grid.Height(); ++y) {
         for (int x = 0; x + 1 < game.grid.Width(); ++x) {
             int& here = shade[static_cast<std::size_t>(y * game.grid.Width() + x)];
             if (!game.state.rangeKeepLit) here = 1;
-            const bool lit = std::any_of(reached.begin(), reached.end(), [&](const AreaRow& row) {
-                return BelongsTo(game, {x, y}, row);
+            const bool lit = std::any_of(reached.begin(), reached.end(), [&](int ordinal) {
+                return BelongsTo(game, {x, y}, game.atlas->Row(ordinal));
             });
             if (lit) here = 0;
         }
     }
+    return reached;
 }
 
 int ScanForEnemyInSlot(const Game& game, Cell cell) {
@@ -136,14 +144,14 @@ int ScanForEnemyInSlot(const Game& game, Cell cell) {
     return 0;
 }
 
-void ScanCensusEnemy(const Game& game, Census& census) {
+int ScanCensusEnemy(const Game& game, Census& census) {
     const int ordinal = OrdinalOf(game, game.state.selectedCell);
-    if (ordinal == 0) return;
-    census = {};
+    if (ordinal == 0) return -1;
+    ClearEnemyCounts(census);
     const AreaRow& row = game.atlas->Row(ordinal);
     const auto& enemySlots = game.state.currentArmy > 0 ? row.frenchSlots : row.alliedSlots;
     const int army = EnemyArmyBy(game, enemySlots[0]);
-    if (army < 0) return;
+    if (army < 0) return army;
     const ArmyUnits& units = game.units[static_cast<std::size_t>(army)];
     for (int index = 1; index < kUnitsPerArmy; ++index) {
         const Unit& unit = units[static_cast<std::size_t>(index)];
@@ -152,6 +160,26 @@ void ScanCensusEnemy(const Game& game, Census& census) {
             census.censusSlotUnit[slot] = index;
             Count(unit, census);
         }
+    }
+    return army;
+}
+
+void ScanCensusOwn(const Game& game, Census& census) {
+    const int ordinal = OrdinalOf(game, game.state.targetCell);
+    if (ordinal == 0) return;
+    census.ownGuns = census.ownCavalry = census.ownLine = census.ownLeaders = 0;
+    const int army = game.state.currentArmy;
+    const AreaRow& row = game.atlas->Row(ordinal);
+    const auto& slots = army > 0 ? row.alliedSlots : row.frenchSlots;
+    for (int index = 1; index < kUnitsPerArmy; ++index) {
+        const Unit& unit = game.At({army, index});
+        const bool inSlot = std::find(slots.begin(), slots.end(), unit.Place()) != slots.end();
+        if (!inSlot || !IsPresent(game, unit)) continue;
+        const int type = static_cast<int>(unit.type);
+        if (type == 16 || type == 17) ++census.ownGuns;
+        if (type >= 8 && type <= (army > 0 ? 13 : 12)) ++census.ownCavalry;
+        if (type < 7) ++census.ownLine;
+        if (type == 7) ++census.ownLeaders;
     }
 }
 

@@ -10,14 +10,17 @@
 namespace varnstride {
 
 // What ShadeReach lights, written into the shade of every cell by rows; the last column is left
-// alone. Nothing is written when selectedCell lies in no area.
-void ScanReach(const Game& game, std::vector<int>& shade);
+// alone. The areas reached. Nothing is written when selectedCell lies in no area.
+std::vector<int> ScanReach(const Game& game, std::vector<int>& shade);
 
 // What FindEnemyInSlot answers.
 int ScanForEnemyInSlot(const Game& game, Cell cell);
 
-// What CensusEnemy finds; nothing when selectedCell lies in no area.
-void ScanCensusEnemy(const Game& game, Census& census);
+// What CensusEnemy finds; nothing when selectedCell lies in no area. The army looked at, -1 none.
+int ScanCensusEnemy(const Game& game, Census& census);
+
+// What CensusOwnAtTarget finds; nothing when targetCell lies in no area.
+void ScanCensusOwn(const Game& game, Census& census);
 
 // What FindAdvanceCell finds in a grid of that shade.
 Cell ScanAdvanceCell(const Game& game, const std::vector<int>& shade);
