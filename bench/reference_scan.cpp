@@ -70,6 +70,15 @@ int EnemyArmyBy(const Game& game, Cell firstSlot) {
     return occupant == 2 ? 1 : occupant == 4 ? 3 : -1;
 }
 
+void ClearEnemyCounts(Census& census) {
+    const Census before = census;
+    census = {};
+    census.ownGuns = before.ownGuns;
+    census.ownCavalry = before.ownCavalry;
+    census.ownLine = before.ownLine;
+    census.ownLeaders = before.ownLeaders;
+}
+
 void Count(const Unit& unit, Census& census) {
     const int type = static_cast<int>(unit.type);
     ++census.enemyCount;
@@ -149,14 +158,14 @@ int ScanForEnemyInSlot(const Game& game, Cell cell) {
     return 0;
 }
 
-void ScanCensusEnemy(const Game& game, Census& census) {
+int ScanCensusEnemy(const Game& game, Census& census) {
     const int ordinal = OrdinalOf(game, game.state.selectedCell);
-    if (ordinal == 0) return;
-    census = {};
+    if (ordinal == 0) return -1;
+    ClearEnemyCounts(census);
     const AreaRow& row = game.atlas->Row(ordinal);
     const auto& enemySlots = game.state.currentArmy > 0 ? row.frenchSlots : row.alliedSlots;
     const int army = EnemyArmyBy(game, enemySlots[0]);
-    if (army < 0) return;
+    if (army < 0) return army;
     const ArmyUnits& units = game.units[static_cast<std::size_t>(army)];
     for (int index = 1; index < kUnitsPerArmy; ++index) {
         const Unit& unit = units[static_cast<std::size_t>(index)];
@@ -165,6 +174,26 @@ void ScanCensusEnemy(const Game& game, Census& census) {
             census.censusSlotUnit[slot] = index;
             Count(unit, census);
         }
+    }
+    return army;
+}
+
+void ScanCensusOwn(const Game& game, Census& census) {
+    const int ordinal = OrdinalOf(game, game.state.targetCell);
+    if (ordinal == 0) return;
+    census.ownGuns = census.ownCavalry = census.ownLine = census.ownLeaders = 0;
+    const int army = game.state.currentArmy;
+    const AreaRow& row = game.atlas->Row(ordinal);
+    const auto& slots = army > 0 ? row.alliedSlots : row.frenchSlots;
+    for (int index = 1; index < kUnitsPerArmy; ++index) {
+        const Unit& unit = game.At({army, index});
+        const bool inSlot = std::find(slots.begin(), slots.end(), unit.Place()) != slots.end();
+        if (!inSlot || !IsPresent(game, unit)) continue;
+        const int type = static_cast<int>(unit.type);
+        if (type == 16 || type == 17) ++census.ownGuns;
+        if (type >= 8 && type <= (army > 0 ? 13 : 12)) ++census.ownCavalry;
+        if (type < 7) ++census.ownLine;
+        if (type == 7) ++census.ownLeaders;
     }
 }
 

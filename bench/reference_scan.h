@@ -10,7 +10,7 @@
 namespace varnstride {
 
 // What ShadeReach lights, written into the shade of every cell by rows; the last column is left
-// alone. Gives the areas lit; none, and nothing is written, when selectedCell lies in no area.
+// alone. The areas reached. Nothing is written when selectedCell lies in no area.
 std::vector<int> ScanReach(const Game& game, std::vector<int>& shade);
 
 // What UnitStandingAt answers while no unit that is due this turn waits for its placing.
@@ -19,8 +19,11 @@ UnitId ScanForUnitAt(const Game& game, Cell cell);
 // What FindEnemyInSlot answers.
 int ScanForEnemyInSlot(const Game& game, Cell cell);
 
-// What CensusEnemy finds; nothing when selectedCell lies in no area.
-void ScanCensusEnemy(const Game& game, Census& census);
+// What CensusEnemy finds; nothing when selectedCell lies in no area. The army looked at, -1 none.
+int ScanCensusEnemy(const Game& game, Census& census);
+
+// What CensusOwnAtTarget finds; nothing when targetCell lies in no area.
+void ScanCensusOwn(const Game& game, Census& census);
 
 // What FindAdvanceCell finds in a grid of that shade.
 Cell ScanAdvanceCell(const Game& game, const std::vector<int>& shade);

@@ -1,5 +1,5 @@
 // How long a whole battle pass takes on the largest battlefield. Linked twice: with the model as
-// it is, and with bench/plain_model.cpp in its place.
+// it is, and with bench/scanned_searches.cpp in its place.
 #include <benchmark/benchmark.h>
 
 #include "battle/battle_pass.h"

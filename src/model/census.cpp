@@ -1,5 +1,6 @@
 #include "model/census.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <optional>
 #include <tuple>
@@ -77,32 +78,30 @@ std::optional<Cell> GoalOf(const Game& game) {
     return GoalCell(game, goal, game.InHand().y);
 }
 
-struct NearestLit {
-    Cell nearest;
-    Cell last;  // the last lit cell by rows
-    bool found = false;
-};
-
 // Columns count with their sign: column 0 lies nearer than the goal column 1. A tie goes to the
-// first cell by rows.
-NearestLit FindNearestLit(const Game& game, Cell goal) {
-    NearestLit result;
+// first cell by rows; in one row none but the last towards the goal can be nearest. Nothing when no
+// lit cell is near enough.
+std::optional<Cell> FindNearestLit(const Game& game, Cell goal) {
     constexpr int kTooFar = 1000;
-    std::tuple<int, int, int> best{kTooFar, 0, 0};
     const bool west = goal.x == 1;
-    game.grid.ForEachLit([&](Cell cell) {
+    std::tuple<int, int, int> best{kTooFar, 0, 0};
+    game.grid.ForEachLitRowEnd(west, [&](Cell cell) {
         const int columns = west ? cell.x - goal.x : goal.x - cell.x;
-        const std::tuple<int, int, int> here{columns + std::abs(cell.y - goal.y), cell.y, cell.x};
-        if (std::get<0>(here) < kTooFar && (!result.found || here < best)) {
-            best = here;
-            result.nearest = cell;
-            result.found = true;
-        }
-        if (std::tuple(cell.y, cell.x) >= std::tuple(result.last.y, result.last.x)) {
-            result.last = cell;
-        }
+        const int distance = columns + std::abs(cell.y - goal.y);
+        if (distance < kTooFar) best = std::min(best, std::tuple(distance, cell.y, cell.x));
     });
-    return result;
+    const auto [distance, y, x] = best;
+    if (distance == kTooFar) return std::nullopt;
+    return Cell{x, y};
+}
+
+// The last one by rows.
+Cell FindLastLit(const Game& game) {
+    Cell last;
+    game.grid.ForEachLitRowEnd(false, [&](Cell cell) {
+        if (std::tuple(cell.y, cell.x) >= std::tuple(last.y, last.x)) last = cell;
+    });
+    return last;
 }
 
 }  // namespace
@@ -143,10 +142,11 @@ void FindAdvanceCell(Game& game) {
     GameState& state = game.state;
     state.advanceResultCell = kNoCell;
     if (const std::optional<Cell> goal = GoalOf(game)) {
-        const NearestLit lit = FindNearestLit(game, *goal);
-        const int ordinal = lit.found ? game.grid.AreaOf(lit.nearest) : 0;
-        state.advanceResultCell =
-            ordinal > 0 ? SlotOf(game.atlas->Row(ordinal).Slots(), game.OwnSide(), 0) : lit.last;
+        const std::optional<Cell> nearest = FindNearestLit(game, *goal);
+        const int ordinal = nearest ? game.grid.AreaOf(*nearest) : 0;
+        state.advanceResultCell = ordinal > 0
+                                      ? SlotOf(game.atlas->Row(ordinal).Slots(), game.OwnSide(), 0)
+                                      : FindLastLit(game);
     }
     state.selectedCell = state.targetCell = state.advanceResultCell;
 }

@@ -9,6 +9,22 @@
 namespace varnstride {
 namespace {
 
+// The cells of an area come by rows.
+void FindRowEnds(AreaMembership& membership) {
+    for (const std::vector<Cell>& cells : membership.cellsOf) {
+        std::vector<Cell>& west = membership.westEndsOf.emplace_back();
+        std::vector<Cell>& east = membership.eastEndsOf.emplace_back();
+        for (Cell cell : cells) {
+            if (!west.empty() && west.back().y == cell.y) {
+                east.back() = cell;
+                continue;
+            }
+            west.push_back(cell);
+            east.push_back(cell);
+        }
+    }
+}
+
 // Slots off the grid or in its last column, which nobody plays on, are left out.
 void FindSlots(int width, int height, const Atlas& atlas, AreaMembership& membership) {
     membership.slotsIn.resize(membership.cellsOf.size());
@@ -58,6 +74,7 @@ AreaMembership MembershipOf(int width, int height, const std::vector<GroundCell>
             if (ground[index].objective != 0) membership.objectives.push_back({x, y});
         }
     }
+    FindRowEnds(membership);
     FindSlots(width, height, atlas, membership);
     return membership;
 }

@@ -64,10 +64,12 @@ struct MapCell {
 
 // Which cells belong to which areas; worked out once for a map.
 struct AreaMembership {
-    std::vector<AreaSet> areasOf;            // by cell: every row that it fits
-    std::vector<std::uint8_t> areaOf;        // by cell: the last row that it fits, 0 none
-    std::vector<std::vector<Cell>> cellsOf;  // by ordinal: columns 0 to width - 2, by rows
-    std::vector<AreaSet> areasIn;            // by ordinal: what areaOf names in those cells
+    std::vector<AreaSet> areasOf;               // by cell: every row that it fits
+    std::vector<std::uint8_t> areaOf;           // by cell: the last row that it fits, 0 none
+    std::vector<std::vector<Cell>> cellsOf;     // by ordinal: columns 0 to width - 2, by rows
+    std::vector<std::vector<Cell>> westEndsOf;  // by ordinal: the first of them in each row
+    std::vector<std::vector<Cell>> eastEndsOf;  // by ordinal: the last of them in each row
+    std::vector<AreaSet> areasIn;               // by ordinal: what areaOf names in those cells
     std::vector<std::vector<Cell>> slotsIn;  // by ordinal: those of them that are slots of any area
     std::vector<Cell> slots;                 // of every area
     std::vector<Cell> objectives;            // every cell with an objective value, by rows
@@ -115,11 +117,15 @@ class Grid {
     // Calls visit(cell) once for every lit cell of columns 0 to width - 2, in no promised order.
     template <typename Visit>
     void ForEachLit(Visit visit) const;
-    // The areas that AreaOf names in the lit cells of columns 0 to width - 2.
-    AreaSet LitAreas() const;
-    // The same for those of them that are slots, where alone units stand.
+    // The same for cells among which the westernmost, or easternmost, lit one of every row is; a
+    // cell may come twice.
+    template <typename Visit>
+    void ForEachLitRowEnd(bool west, Visit visit) const;
+    // The same for the slots, where alone units stand.
     template <typename Visit>
     void ForEachLitSlot(Visit visit) const;
+    // The areas that AreaOf names in the lit cells of columns 0 to width - 2.
+    AreaSet LitAreas() const;
 
     // The unit that stands in a cell and is on the map. Kept by units_on_map.h alone.
     UnitId Standing(Cell cell) const { return standing_[Index(cell)]; }
@@ -177,6 +183,16 @@ void Grid::ForEachLit(Visit visit) const {
             if (IsLit({x, y})) visit(Cell{x, y});
         }
     }
+}
+
+template <typename Visit>
+void Grid::ForEachLitRowEnd(bool west, Visit visit) const {
+    if (tone_ != Tone::Shaded) return ForEachLit(visit);
+    const CellsByArea& ends = west ? membership_->westEndsOf : membership_->eastEndsOf;
+    lit_.ForEach([&](int ordinal) {
+        for (Cell cell : ends[static_cast<std::size_t>(ordinal)])
+            visit(cell);
+    });
 }
 
 template <typename Visit>

@@ -33,6 +33,7 @@ void TurnSomewhere(std::mt19937& chance, Game& game) {
     game.state.currentArmy = kArmies[Pick(chance, 4)];
     game.state.currentUnit = 1 + Pick(chance, 20);
     game.state.selectedCell = {Pick(chance, game.grid.Width()), Pick(chance, game.grid.Height())};
+    game.state.targetCell = {Pick(chance, game.grid.Width()), Pick(chance, game.grid.Height())};
     game.state.roadMover = Pick(chance, 2) == 0;
     game.state.rangeKeepLit = Pick(chance, 3) == 0;
     game.state.ownAreaLeftOut = Pick(chance, 12) == 0;
@@ -67,6 +68,12 @@ void CompareCensus(Game& game) {
     EXPECT_EQ(found.enemyLeaderHere, expected.enemyLeaderHere);
     EXPECT_EQ(found.enemyHeavyHere, expected.enemyHeavyHere);
     EXPECT_EQ(found.enemyRoutedHere, expected.enemyRoutedHere);
+    ScanCensusOwn(game, expected);
+    CensusOwnAtTarget(game);
+    EXPECT_EQ(found.ownGuns, expected.ownGuns);
+    EXPECT_EQ(found.ownCavalry, expected.ownCavalry);
+    EXPECT_EQ(found.ownLine, expected.ownLine);
+    EXPECT_EQ(found.ownLeaders, expected.ownLeaders);
 }
 
 void CompareSlots(Game& game) {
