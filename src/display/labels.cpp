@@ -60,6 +60,7 @@ void DrawLabel(Surface& surface, const Rect& clip, Point at, const MapLabel& lab
         NearestOf(NearestOf(kPlates, label.labelStyleBlock), label.labelStyleRow);
     const Rect plate{at.x, at.y, at.x + LabelWidth(label), at.y + kPlateHeight};
     const Rect inside = Intersection(clip, surface.Bounds());
+    if (Intersection(plate, inside).IsEmpty()) return;
     Fill(surface, Intersection(plate, inside), style.edge);
     Fill(surface,
          Intersection({plate.left + 1, plate.top + 1, plate.right - 1, plate.bottom - 1}, inside),
