@@ -18,8 +18,8 @@ Posted Man(const Studio& studio, const Troop& troop, std::string_view body, QPoi
 
 // Room between ranks: less where there are many.
 int RankStep(int ranks) {
-    if (ranks <= 3) return 6;
-    return ranks <= 6 ? 5 : 4;
+    if (ranks <= 4) return 8;
+    return ranks <= 6 ? 7 : 6;
 }
 
 // The first rank's ground, so that the whole lies round the cell's middle.
@@ -64,7 +64,7 @@ std::vector<Posted> PostLine(const Studio& studio, const Troop& troop, int stren
 std::vector<Posted> PostColumn(const Studio& studio, const Troop& troop, int strength) {
     constexpr int kFiles = 4;
     const int ranks = 2 * strength;
-    const int step = ranks <= 4 ? 6 : (ranks <= 8 ? 5 : 4);
+    const int step = ranks <= 4 ? 7 : (ranks <= 8 ? 6 : 5);
     std::vector<Posted> men;
     for (int rank = 0; rank < ranks; ++rank) {
         const int y = BackOf(ranks, step) + rank * step;
@@ -88,7 +88,7 @@ std::vector<Posted> PostSkirmishers(const Studio& studio, const Troop& troop, in
         // Turns of the golden angle spread points evenly, however many there are.
         const double angle = i * 2.39996;
         const double reach = std::sqrt((i + 0.5) / count);
-        const double width = 13 + 2.2 * count;
+        const double width = 18 + 2.4 * count;
         const QPoint place(
             static_cast<int>(std::lround(std::cos(angle) * reach * width * 0.75)),
             static_cast<int>(std::lround(std::sin(angle) * reach * width * 0.48)) + 6);

@@ -56,14 +56,16 @@ std::vector<Posted> PostHorse(const Studio& studio, const Troop& troop, int stre
     return riders;
 }
 
-std::vector<Posted> PostLeader(const Studio& studio, const Troop& troop) {
-    Troop aide = troop;
-    aide.horses = "bay";
+std::vector<Posted> PostLeader(const Studio& studio, const Troop& general,
+                               std::string_view aideUniform) {
+    Troop aide = general;
+    aide.uniform = aideUniform;
+    aide.head = "shako";
     std::vector<Posted> group;
     group.push_back({RiderFigure(studio, aide, "walk", "bay"), {-13, 3}, kHorseFooting});
-    group.push_back({CarriedColor(studio, troop.nation), {-9, 2}, 0});
+    group.push_back({CarriedColor(studio, general.nation), {-9, 2}, 0});
     group.push_back({RiderFigure(studio, aide, "walk", "brown"), {12, 2}, kHorseFooting});
-    group.push_back({RiderFigure(studio, troop, "trot", troop.horses), {0, 10}, kHorseFooting});
+    group.push_back({RiderFigure(studio, general, "trot", general.horses), {0, 10}, kHorseFooting});
     return group;
 }
 

@@ -17,6 +17,18 @@ void LayShadow(Tile& tile, const Posted& man, QRgb shadow) {
     }
 }
 
+// A figure with a dark line round it, coloured by what it bounds, so that a crowd keeps the colour
+// of its coats.
+Tile WithLine(const Tile& figure, QRgb ink) {
+    return Outlined(figure, [&](int x, int y) {
+        QRgb beside = 0;
+        for (const QPoint step : {QPoint(0, 1), QPoint(1, 0), QPoint(-1, 0), QPoint(0, -1)}) {
+            if (beside == 0) beside = figure.At(x + step.x(), y + step.y());
+        }
+        return Mix(Scaled(beside, 0.38), ink, 0.45);
+    });
+}
+
 // The colours of men who have done what they can for this turn: dust lies on them.
 void Fade(Tile& tile, QRgb dust) {
     tile.Recolor([dust](QRgb color, int, int) {
@@ -38,7 +50,7 @@ Tile Mustered(std::vector<Posted> men, const Studio& studio, const MusterLook& l
                      [](const Posted& a, const Posted& b) { return a.place.y() < b.place.y(); });
     Tile figures(kRoom);
     for (const Posted& man : men)
-        figures.Lay(Outlined(man.figure, studio.palette["unit.line"]), man.place);
+        figures.Lay(WithLine(man.figure, studio.palette["unit.line"]), man.place);
     if (look.freshness == Freshness::Spent) Fade(figures, studio.palette["unit.dust"]);
     Tile tile(kRoom);
     if (!look.hasBase) {

@@ -38,7 +38,8 @@ Result<Studio> OpenStudio(const std::string& folder) {
     std::string mistakes;
     Studio studio{ReadPart<Palette>(folder + "/palette.art", mistakes),
                   ReadPart<FigureBook>(folder + "/figures.art", mistakes),
-                  ReadPart<Wardrobe>(folder + "/uniforms.art", mistakes)};
+                  ReadPart<Wardrobe>(folder + "/uniforms.art", mistakes),
+                  ReadPart<Lettering>(folder + "/lettering.art", mistakes)};
     if (!mistakes.empty()) return Failure{mistakes};
     return studio;
 }

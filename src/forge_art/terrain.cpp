@@ -125,14 +125,31 @@ constexpr std::array<TerrainRow, 28> kRows = {{
     {1, 1, Field},    // the crop itself is part of the ground
     {2, 2, Flowers},  // open meadow
     {3, 3, Reeds},    // stream; the water is a feature
-    {4, 4, Lake},           {5, 5, Nothing},        {6, 8, Orchard},        {9, 11, Scrub},
-    {12, 14, Marsh},        {15, 17, Woodland},     {18, 23, Ripples},  // river; the water is a
-                                                                        // feature
-    {24, 26, Village},      {27, 29, Vineyard},     {30, 35, WoodlandRide}, {36, 37, Flowers},
-    {38, 38, Quarry},       {39, 41, Building},     {42, 43, Forest},       {44, 47, ForestRide},
+    {4, 4, Lake},
+    {5, 5, Nothing},
+    {6, 8, Orchard},
+    {9, 11, Scrub},
+    {12, 14, Marsh},
+    {15, 17, Woodland},
+    {18, 23, Ripples},  // river; the water is a
+                        // feature
+    {24, 26, Village},
+    {27, 29, Vineyard},
+    {30, 35, WoodlandRide},
+    {36, 37, Flowers},
+    {38, 38, Quarry},
+    {39, 41, Building},
+    {42, 43, Forest},
+    {44, 47, ForestRide},
     {48, 53, Nothing},  // become 5 when a map is opened
-    {54, 61, WoodlandRide}, {63, 65, Swamp},        {66, 71, Rocks},        {72, 75, WoodlandRide},
-    {76, 77, Reeds},        {84, 89, LateBuilding}, {86, 86, Church},       {99, 101, Camp},
+    {54, 61, WoodlandRide},
+    {63, 65, Swamp},
+    {66, 71, Rocks},
+    {72, 75, WoodlandRide},
+    {76, 77, Reeds},
+    {84, 89, LateBuilding},
+    {86, 86, Church},
+    {99, 101, Camp},
 }};
 
 // The first tile number of a row counts its variants through all rows of the same recipe.

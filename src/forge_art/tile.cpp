@@ -41,21 +41,4 @@ Tile Mirrored(const Tile& tile) {
     return mirrored;
 }
 
-Tile Outlined(const Tile& tile, QRgb color) {
-    const QRect area = tile.Area().adjusted(-1, -1, 1, 1);
-    Tile outlined(area);
-    for (int y = area.top(); y <= area.bottom(); ++y) {
-        for (int x = area.left(); x <= area.right(); ++x) {
-            const bool touches = !tile.IsEmptyAt(x - 1, y) || !tile.IsEmptyAt(x + 1, y) ||
-                                 !tile.IsEmptyAt(x, y - 1) || !tile.IsEmptyAt(x, y + 1);
-            if (!tile.IsEmptyAt(x, y)) {
-                outlined.Set(x, y, tile.At(x, y));
-            } else if (touches) {
-                outlined.Set(x, y, color);
-            }
-        }
-    }
-    return outlined;
-}
-
 }  // namespace varnstride::art

@@ -63,7 +63,26 @@ void Tile::Recolor(Change change) {
 // The tile with its left and right sides exchanged; the anchor stays.
 Tile Mirrored(const Tile& tile);
 
-// Puts a border of one pixel round everything opaque.
-Tile Outlined(const Tile& tile, QRgb color);
+// Puts a border of one pixel round everything opaque, of the colour that line(x, y) gives.
+template <typename Line>
+Tile Outlined(const Tile& tile, Line line);
+
+template <typename Line>
+Tile Outlined(const Tile& tile, Line line) {
+    const QRect area = tile.Area().adjusted(-1, -1, 1, 1);
+    Tile outlined(area);
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x) {
+            const bool touches = !tile.IsEmptyAt(x - 1, y) || !tile.IsEmptyAt(x + 1, y) ||
+                                 !tile.IsEmptyAt(x, y - 1) || !tile.IsEmptyAt(x, y + 1);
+            if (!tile.IsEmptyAt(x, y)) {
+                outlined.Set(x, y, tile.At(x, y));
+            } else if (touches) {
+                outlined.Set(x, y, line(x, y));
+            }
+        }
+    }
+    return outlined;
+}
 
 }  // namespace varnstride::art

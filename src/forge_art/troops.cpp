@@ -13,7 +13,7 @@ std::vector<Posted> Post(const Studio& studio, const Troop& troop, int strength)
         case Arrangement::Column: return PostColumn(studio, troop, strength);
         case Arrangement::Skirmish: return PostSkirmishers(studio, troop, strength);
         case Arrangement::Horse: return PostHorse(studio, troop, strength);
-        case Arrangement::Leader: return PostLeader(studio, troop);
+        case Arrangement::Leader: return PostLeader(studio, troop, troop.uniform);
         // The sheet goes on from foot guns to horse guns.
         case Arrangement::Guns:
             return PostGuns(studio, troop, (strength - 1) % 2 + 1, strength > 2);

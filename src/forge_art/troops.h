@@ -17,7 +17,7 @@ enum class Arrangement {
     Skirmish,  // loose order
     Horse,     // ranks of riders
     Guns,      // four pictures: foot guns of strength 1 and 2, horse guns of 1 and 2
-    Leader,
+    Leader,    // a group of his own, the same at any strength
 };
 
 enum class Calibre { Light, Medium, Heavy };

@@ -40,6 +40,18 @@ void DrawPool(Tile& tile, const Palette& palette, int x, int y, int half) {
     }
 }
 
+// Furrows that join from cell to cell and let roads shine through.
+void PutFurrows(Tile& tile, const Palette& palette, const HexShape& hex) {
+    for (int y = hex.Top(); y < hex.Bottom(); ++y) {
+        for (int x = -hex.width / 2; x < hex.width / 2; ++x) {
+            if (!hex.Contains(x, y)) continue;
+            const int place = ((x + y) % 4 + 4) % 4;
+            if (place == 0) tile.Set(x, y, palette["crop.ear"]);
+            if (place == 1) tile.Set(x, y, palette["crop.rye"]);
+        }
+    }
+}
+
 }  // namespace
 
 Tile PaintMarsh(const Studio& studio, const HexShape& hex, bool isSwamp, int variant) {
@@ -176,9 +188,13 @@ Tile PaintQuarry(const Studio& studio, const HexShape& hex) {
 
 Tile PaintSheaves(const Studio& studio, const HexShape& hex) {
     Tile tile(RoomOf(hex));
+    if (hex.width < kNormalHex.width) {
+        PutFurrows(tile, studio.palette, hex);
+        return tile;
+    }
     Chance chance(601);
     const int half = hex.width / 2;
-    const int count = hex.width > 16 ? 9 : 2;
+    const int count = 9;
     for (int i = 0; i < count; ++i) {
         const int x = chance.Below(hex.width - 6) - half + 3;
         const int y = chance.Below(hex.rowStep - 4) - half + 2;

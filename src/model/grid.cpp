@@ -4,6 +4,7 @@
 #include <array>
 
 #include "model/atlas.h"
+#include "model/tile_sheets.h"
 
 namespace varnstride {
 namespace {
@@ -37,14 +38,6 @@ AreaMembership MembershipOf(int width, int height, const std::vector<GroundCell>
     return membership;
 }
 
-// Border pictures by the sides beyond which another area number lies. The pattern's bits are, from
-// the highest: W NW NE E SE SW. A pattern that is not listed has no picture.
-constexpr std::array<int, 32> kPicturedBorders = {
-    0b000000, 0b100000, 0b110000, 0b111000, 0b111100, 0b111110, 0b111111, 0b100001,
-    0b100011, 0b100111, 0b101111, 0b110111, 0b111011, 0b111101, 0b011111, 0b110011,
-    0b111001, 0b011110, 0b001111, 0b110001, 0b011100, 0b001110, 0b000111, 0b000011,
-    0b000110, 0b001100, 0b011000, 0b010000, 0b001000, 0b000100, 0b000010, 0b000001};
-
 constexpr std::array<int, 64> BorderTiles() {
     std::array<int, 64> tiles{};
     for (std::size_t tile = 0; tile < kPicturedBorders.size(); ++tile) {
@@ -52,7 +45,7 @@ constexpr std::array<int, 64> BorderTiles() {
     }
     return tiles;
 }
-constexpr std::array<int, 64> kBorderTiles = BorderTiles();
+constexpr std::array<int, 64> kTileOfPattern = BorderTiles();
 
 constexpr Direction kBorderBits[6] = {Direction::West, Direction::NorthWest, Direction::NorthEast,
                                       Direction::East, Direction::SouthEast, Direction::SouthWest};
@@ -66,7 +59,7 @@ int BorderTileOf(const Grid& grid, Cell cell) {
         const bool differs = compared && grid.Ground(neighbour).areaId != grid.Ground(cell).areaId;
         pattern = pattern << 1 | (differs ? 1U : 0U);
     }
-    return kBorderTiles[pattern];
+    return kTileOfPattern[pattern];
 }
 
 constexpr int kFirstPlainedTile = 48;

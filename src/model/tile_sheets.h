@@ -49,6 +49,14 @@ constexpr std::array<BridgeTile, 15> kBridges = {{
     {19, 48},
 }};
 
+// Border pictures by the sides beyond which another area number lies. The pattern's bits are, from
+// the highest: W NW NE E SE SW. A pattern that is not listed has no picture.
+constexpr std::array<int, kBorderTiles> kPicturedBorders = {
+    0b000000, 0b100000, 0b110000, 0b111000, 0b111100, 0b111110, 0b111111, 0b100001,
+    0b100011, 0b100111, 0b101111, 0b110111, 0b111011, 0b111101, 0b011111, 0b110011,
+    0b111001, 0b011110, 0b001111, 0b110001, 0b011100, 0b001110, 0b000111, 0b000011,
+    0b000110, 0b001100, 0b011000, 0b010000, 0b001000, 0b000100, 0b000010, 0b000001};
+
 // Slopes stand in the overlay layer: a picture for each set of sides beyond which the ground is
 // lower. They take the numbers that are neither a palisade nor nothing.
 constexpr int SlopeTile(unsigned lowerSides) {
