@@ -3,7 +3,9 @@
 // the east.
 #pragma once
 
+#include <array>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -15,6 +17,54 @@
 #include "support/recording_person.h"
 
 namespace varnstride {
+
+// The words of a unit, for tables.
+namespace words {
+using enum UnitType;
+using enum Formation;
+using enum UnitStatus;
+using Quality::Elite, Quality::Veteran, Quality::Experienced, Quality::Militia, Quality::Conscript;
+using UnitActivity::Charging, UnitActivity::BayonetCharge, UnitActivity::Reforming;
+using Weapon::Carbine, Weapon::Musket, Weapon::Rifle;
+using Weapon::ThreePounder, Weapon::SixPounder, Weapon::TwelvePounder;
+}  // namespace words
+
+// A unit as a case tells of it; what it leaves out is that of steady foot in Line.
+struct Soldier {
+    UnitType type = UnitType::LineInfantry;
+    Formation formation = Formation::Line;
+    int strength = 4;
+    UnitStatus status = UnitStatus::Ordered;
+    Quality quality = Quality::Experienced;
+    int morale = 24;
+    int maxMorale = 24;
+    UnitActivity activity = UnitActivity::None;
+    std::optional<Weapon> weapon = {};  // six pounders of field guns, else nothing
+    int ammunition = 8;
+    int actionPoints = 1;
+    int disrupted = 0;
+
+    Unit Made() const {
+        Unit unit = MakeUnit(type);
+        unit.formation = formation;
+        unit.strength = unit.initialStrength = strength;
+        unit.status = status;
+        unit.quality = quality;
+        unit.morale = morale;
+        unit.maxMorale = maxMorale;
+        unit.activity = activity;
+        unit.weapon = weapon.value_or(IsFieldGun(type) ? Weapon::SixPounder : Weapon::None);
+        unit.ammunition = ammunition;
+        unit.actionPoints = actionPoints;
+        unit.disrupted = disrupted;
+        unit.canMove = 1;
+        return unit;
+    }
+};
+
+inline Unit Fighter(UnitType type) {
+    return Soldier{.type = type}.Made();
+}
 
 // Notes the reports of attacks beside everything else.
 class WitnessPerson : public RecordingPerson {
@@ -29,16 +79,7 @@ class WitnessPerson : public RecordingPerson {
     }
 };
 
-// Strength 4, morale 24 of 24, in Line, 8 loads, 1 Action Point.
-inline Unit Fighter(UnitType type) {
-    Unit unit = MakeUnit(type);
-    unit.strength = unit.initialStrength = 4;
-    unit.morale = unit.maxMorale = 24;
-    unit.ammunition = 8;
-    unit.canMove = 1;
-    if (IsFieldGun(type)) unit.weapon = Weapon::SixPounder;
-    return unit;
-}
+using Heard = std::vector<std::string>;
 
 inline FieldPlan RowOfThree() {
     FieldPlan plan;
@@ -47,6 +88,18 @@ inline FieldPlan RowOfThree() {
         plan.links.push_back({.from = area, .to = area + 1, .firstStep = FirstStep::Open});
         plan.links.push_back({.from = area + 1, .to = area, .firstStep = FirstStep::Open});
     }
+    return plan;
+}
+
+// As many of the six slots of the middle area are village.
+inline FieldPlan VillageIn(int slots) {
+    FieldPlan plan = RowOfThree();
+    plan.paint = [slots](Cell cell, MapCell& mapCell) {
+        const std::array<Cell, 6> places = {{{9, 1}, {11, 1}, {13, 1}, {9, 4}, {11, 4}, {13, 4}}};
+        for (int slot = 0; slot < slots; ++slot) {
+            if (cell == places[static_cast<std::size_t>(slot)]) mapCell.terrainTile = 24;
+        }
+    };
     return plan;
 }
 
@@ -88,6 +141,36 @@ struct AttackField : Field {
         game.state.bombardmentMode = 0;
     }
     bool HasFought() const { return !witness.reports.empty(); }
+};
+
+// Two units in the first slots of the middle area, French against British unless said otherwise.
+struct Duel : AttackField {
+    Duel(const Soldier& attacker, const Soldier& target, const FieldPlan& plan = RowOfThree(),
+         int attackerArmy = kFrench, int targetArmy = kBritish)
+        : AttackField(plan) {
+        attackerId = Add(attackerArmy, kMiddle, 1, attacker.Made());
+        targetId = Add(targetArmy, kMiddle, 1, target.Made());
+    }
+
+    Unit& A() { return game.At(attackerId); }
+    Unit& T() { return game.At(targetId); }
+    void Fight() { Attack(attackerId); }
+    const AttackReport& Report() const { return witness.reports.back(); }
+
+    // Makes the target the opponent of the attacker, without an attack.
+    void Face() {
+        Prepare(attackerId);
+        game.battle.targetArmy = targetId.army;
+        game.battle.targetUnit = targetId.index;
+    }
+    // The attacker's card makes him pass every test.
+    void SteadyTheAttacker() {
+        game.state.steadyNerves = 1;
+        game.state.steadyNervesArmy = attackerId.army;
+    }
+
+    UnitId attackerId;
+    UnitId targetId;
 };
 
 }  // namespace varnstride

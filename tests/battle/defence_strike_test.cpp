@@ -9,221 +9,206 @@
 namespace varnstride {
 namespace {
 
-struct AnswerField : AttackField {
-    AnswerField(int attackerArmy, int targetArmy, UnitType attacker, UnitType target)
-        : AttackField() {
-        attackerId = Add(attackerArmy, kMiddle, 1, Fighter(attacker));
-        targetId = Add(targetArmy, kMiddle, 1, Fighter(target));
-    }
+using namespace words;
 
-    Unit& A() { return game.At(attackerId); }
-    Unit& T() { return game.At(targetId); }
-
-    int Answer() {
-        const int terrain = game.battle.terrainDefence;
-        Prepare(attackerId);
-        game.battle.terrainDefence = terrain;
-        game.battle.targetUnit = targetId.index;
-        return ComputeDefenceStrike(game).Value();
-    }
-
-    UnitId attackerId;
-    UnitId targetId;
+struct Scene {
+    int by = kFrench;
+    int on = kBritish;
+    int terrain = 0;
+    int card = 0;
+    int visibility = 20;
+    int roadTile = kNoRoad;  // of the target's cell
+    int groundTile = 0;      // everywhere
 };
 
 struct AnswerCase {
     const char* name;
     int expected;
-    std::function<void(AnswerField&)> change;
+    Soldier target = {};
+    Soldier attacker = {};
+    Scene scene = {};
 };
 
-void ExpectAnswers(UnitType attacker, UnitType target, const std::vector<AnswerCase>& cases,
-                   int attackerArmy = kFrench, int targetArmy = kBritish) {
-    for (const AnswerCase& answerCase : cases) {
-        AnswerField field(attackerArmy, targetArmy, attacker, target);
-        answerCase.change(field);
-        EXPECT_EQ(field.Answer(), answerCase.expected) << answerCase.name;
+// Three points of strength count. Line infantry to its like: 5 x 3 + 0 = 15.
+const AnswerCase kAnswers[] = {
+    {"plain", 15},
+    {"strength 2", 10, {.strength = 2}},
+    {"unsteady: 11.25", 11, {.status = Unsteady}},
+    {"shaken: 7.5", 7, {.status = Shaken}},
+    {"attack column x 0.2", 3, {.formation = AttackColumn}},
+    {"mixed order x 0.5", 7, {.formation = MixedOrder}},
+    {"square x 0.25: 3.75", 3, {.formation = Square}},
+    {"open order x 1.25: 18.75", 18, {.formation = OpenOrder}},
+    {"march column x 0.1", 1, {.formation = MarchColumn}},
+    {"no formation x 0.5", 7, {.formation = NoFormation}},
+    {"smoke", 14, {}, {}, {.roadTile = kSmoke}},
+    {"rifles", 16, {.weapon = Rifle}},
+    {"disrupted", 14, {.disrupted = 1}},
+    {"no ammunition", 14, {.ammunition = 0}},
+    {"line against bayonets", 16, {}, {.activity = BayonetCharge}},
+    {"column against bayonets", 3, {.formation = AttackColumn}, {.activity = BayonetCharge}},
+    {"woods", 12, {}, {}, {.terrain = 3}},
+    {"woods do not bind skirmishers", 18, {.formation = OpenOrder}, {}, {.terrain = 3}},
+    {"militia", 14, {.quality = Militia}},
+    {"conscripts", 14, {.quality = Conscript}},
+    {"veterans", 16, {.quality = Veteran}},
+    {"elite", 16, {.quality = Elite}},
+    {"snow", 13, {}, {}, {.groundTile = 72}},
+    {"dark", 7, {}, {}, {.visibility = 5}},
+    {"card 2 of the French", 15, {}, {}, {.card = 2}},
+    {"Austrian card 2", 13, {}, {}, {.by = kAustrian, .on = kFrench, .card = 2}},
+    // The attacker's row counts, not the target's own.
+    {"light infantry: 6 x 3 - 1", 17, {LightInfantry}},
+    {"3 skirmish: 1 x 1.25 x 6 - 1", 6, {LightInfantry, OpenOrder, 3}},
+    {"5 skirmish: 2 x 1.25 x 6 - 1", 14, {LightInfantry, OpenOrder, 5}},
+    {"line to the guard: 15 + 2", 17, {}, {GuardInfantry}},
+    {"a square has no matchup: 3", 3, {.formation = Square}, {GuardInfantry}},
+    {"British guard: 8 x 3 - 2", 22, {GuardInfantry}},
+    {"elite guard", 23, {.type = GuardInfantry, .quality = Elite}},
+    {"Prussian grenadiers: 24 x 6 / 8 - 2", 16, {GuardInfantry}, {}, {.on = kPrussian}},
+    {"guns: 6 x 3 + 3", 21, {FieldArtillery}},
+    {"rockets: 3 x 3, no matchup", 9, {RocketArtillery}},
+    {"horse to foot: 7 x 3, no matchup", 21, {LightCavalry}},
+    {"a square shuts horse out: 21 - 20", 1, {LightCavalry}, {.formation = Square}},
+    // To horse.
+    {"line: 15 - 3", 12, {}, {LightCavalry}},
+    {"mixed order: 7 - 3", 4, {.formation = MixedOrder}, {LightCavalry}},
+    {"column: 3 - 4", 0, {.formation = AttackColumn}, {LightCavalry}},
+    {"march column: 1 - 4", 0, {.formation = MarchColumn}, {LightCavalry}},
+    {"square", 3, {.formation = Square}, {LightCavalry}},
+    {"skirmishers", 18, {.formation = OpenOrder}, {LightCavalry}},
+    {"the guard takes nothing off a line", 15, {}, {GuardCavalry}},
+    {"guns: 18 + 4", 22, {FieldArtillery}, {LightCavalry}},
+    {"limbered: 0 + 1", 1, {HorseArtillery, MarchColumn}, {LightCavalry}},
+    {"12 pounders: 24 + 1", 25, {.type = HorseArtillery, .weapon = TwelvePounder}, {LightCavalry}},
+    {"3 pounders: 12 + 1", 13, {.type = HorseArtillery, .weapon = ThreePounder}, {LightCavalry}},
+    {"guns in snow: 22 - 2", 20, {FieldArtillery}, {LightCavalry}, {.groundTile = 108}},
+    {"horse standing: 21 + 0 - 2", 19, {LightCavalry}, {LightCavalry}},
+    {"horse charging", 21, {.type = LightCavalry, .activity = Charging}, {LightCavalry}},
+    {"horse in column: 15.75 - 2", 13, {LightCavalry, AttackColumn}, {LightCavalry}},
+    {"horse in open order: 15.75 - 2", 13, {LightCavalry, OpenOrder}, {LightCavalry}},
+    {"no ammunition needed", 19, {.type = LightCavalry, .ammunition = 0}, {LightCavalry}},
+    {"dark does not halve", 19, {LightCavalry}, {LightCavalry}, {.visibility = 3}},
+    {"snow does not hamper", 19, {LightCavalry}, {LightCavalry}, {.groundTile = 72}},
+    {"lancers: 24 + 1 - 3", 22, {Lancers}, {LightCavalry}},
+    {"lancers charging: 24 + 1", 25, {.type = Lancers, .activity = Charging}, {LightCavalry}},
+    {"horse of the guard: 0, no matchup", 0, {GuardCavalry}, {LightCavalry}},
+};
+
+TEST(DefenceStrike, CountsTheCircumstances) {
+    for (const AnswerCase& answer : kAnswers) {
+        const Scene& scene = answer.scene;
+        FieldPlan plan = RowOfThree();
+        plan.paint = [&](Cell, MapCell& cell) { cell.groundTile = scene.groundTile; };
+        Duel duel(answer.attacker, answer.target, plan, scene.by, scene.on);
+        duel.Face();
+        duel.game.battle.terrainDefence = scene.terrain;
+        duel.game.header.visibility = scene.visibility;
+        duel.game.options.cardEffect = scene.card;
+        duel.game.grid.At(duel.T().Place()).roadTile = scene.roadTile;
+        EXPECT_EQ(ComputeDefenceStrike(duel.game).Value(), answer.expected) << answer.name;
     }
 }
 
-// Line infantry of 4, of which 3 count, answers line infantry: 5 x 3 + 0 = 15.
-TEST(DefenceStrike, OfLineInfantryToFoot) {
-    ExpectAnswers(
-        UnitType::LineInfantry, UnitType::LineInfantry,
-        {
-            {"plain", 15, [](auto&) {}},
-            {"strength 2", 10, [](auto& f) { f.T().strength = 2; }},
-            {"unsteady: 11.25", 11, [](auto& f) { f.T().status = UnitStatus::Unsteady; }},
-            {"shaken: 7.5", 7, [](auto& f) { f.T().status = UnitStatus::Shaken; }},
-            {"attack column x 0.2", 3, [](auto& f) { f.T().formation = Formation::AttackColumn; }},
-            {"mixed order x 0.5", 7, [](auto& f) { f.T().formation = Formation::MixedOrder; }},
-            {"square x 0.25: 3.75", 3, [](auto& f) { f.T().formation = Formation::Square; }},
-            {"open order x 1.25: 18.75", 18,
-             [](auto& f) { f.T().formation = Formation::OpenOrder; }},
-            {"march column x 0.1", 1, [](auto& f) { f.T().formation = Formation::MarchColumn; }},
-            {"no formation x 0.5", 7, [](auto& f) { f.T().formation = Formation::NoFormation; }},
-            {"smoke", 14, [](auto& f) { f.game.grid.At(f.T().Place()).roadTile = kSmoke; }},
-            {"rifles", 16, [](auto& f) { f.T().weapon = Weapon::Rifle; }},
-            {"disrupted", 14, [](auto& f) { f.T().disrupted = 1; }},
-            {"no ammunition", 14, [](auto& f) { f.T().ammunition = 0; }},
-            {"line against bayonets", 16,
-             [](auto& f) { f.A().activity = UnitActivity::BayonetCharge; }},
-            {"woods", 12, [](auto& f) { f.game.battle.terrainDefence = 3; }},
-            {"woods do not bind skirmishers", 18,
-             [](auto& f) {
-                 f.game.battle.terrainDefence = 3;
-                 f.T().formation = Formation::OpenOrder;
-             }},
-            {"militia", 14, [](auto& f) { f.T().quality = Quality::Militia; }},
-            {"elite", 16, [](auto& f) { f.T().quality = Quality::Elite; }},
-            {"dark", 7, [](auto& f) { f.game.header.visibility = 5; }},
-            {"card 2 is the Austrians'", 15, [](auto& f) { f.game.options.cardEffect = 2; }},
-        });
-    ExpectAnswers(UnitType::LineInfantry, UnitType::LineInfantry,
-                  {{"Austrian card 2", 13, [](auto& f) { f.game.options.cardEffect = 2; }}},
-                  kAustrian, kFrench);
-}
-
-// The attacker's row counts, not the target's own.
-TEST(DefenceStrike, TakesTheMatchupOfTheAttacker) {
-    const auto plain = [](AnswerField&) {};
-    const auto square = [](AnswerField& f) { f.T().formation = Formation::Square; };
-    // 6 x 3 - 1: line infantry has -1 against light infantry, which has +1 against it.
-    ExpectAnswers(UnitType::LineInfantry, UnitType::LightInfantry, {{"light", 17, plain}});
-    ExpectAnswers(UnitType::GuardInfantry, UnitType::LineInfantry,
-                  {{"guard: 15 + 2", 17, plain}, {"not in square: 3", 3, square}});
-    // 6-pounders: 6 x 3 + 3.
-    ExpectAnswers(UnitType::LineInfantry, UnitType::FieldArtillery, {{"guns", 21, plain}});
-    // Horse before foot: 7 x 3, no matchup.
-    ExpectAnswers(UnitType::LineInfantry, UnitType::LightCavalry,
-                  {{"horse", 21, plain}, {"a square shuts it out", 1, [](auto& f) {
-                                              f.A().formation = Formation::Square;
-                                          }}});
-}
-
-TEST(DefenceStrike, ToHorse) {
-    const auto plain = [](AnswerField&) {};
-    ExpectAnswers(
-        UnitType::LightCavalry, UnitType::LineInfantry,
-        {
-            {"line: 15 - 3", 12, plain},
-            {"mixed order: 7 - 3", 4, [](auto& f) { f.T().formation = Formation::MixedOrder; }},
-            {"column: 3 - 4", 0, [](auto& f) { f.T().formation = Formation::AttackColumn; }},
-            {"march column: 1 - 4", 0, [](auto& f) { f.T().formation = Formation::MarchColumn; }},
-            {"square", 3, [](auto& f) { f.T().formation = Formation::Square; }},
-            {"skirmishers", 18, [](auto& f) { f.T().formation = Formation::OpenOrder; }},
-        });
-    ExpectAnswers(UnitType::GuardCavalry, UnitType::LineInfantry,
-                  {{"the guard takes nothing off a line", 15, plain}});
-    // 18 + 4
-    ExpectAnswers(UnitType::LightCavalry, UnitType::FieldArtillery, {{"guns", 22, plain}});
-    // 21 + 0 - 2; charging 21; column x 0.75: 15 - 2
-    ExpectAnswers(
-        UnitType::LightCavalry, UnitType::LightCavalry,
-        {{"standing", 19, plain},
-         {"charging", 21, [](auto& f) { f.T().activity = UnitActivity::Charging; }},
-         {"column: 15.75 - 2", 13, [](auto& f) { f.T().formation = Formation::AttackColumn; }},
-         {"open order: 15.75 - 2", 13, [](auto& f) { f.T().formation = Formation::OpenOrder; }},
-         {"no ammunition needed", 19, [](auto& f) { f.T().ammunition = 0; }},
-         {"dark does not halve", 19, [](auto& f) { f.game.header.visibility = 3; }}});
-    // lancers: 24 + 1 - 3
-    ExpectAnswers(UnitType::LightCavalry, UnitType::Lancers, {{"lancers", 22, plain}});
-    // guard horse: 0 and no matchup
-    ExpectAnswers(UnitType::LightCavalry, UnitType::GuardCavalry, {{"guard", 0, plain}});
-}
-
-TEST(DefenceStrike, OfGunsAndGuards) {
-    ExpectAnswers(
-        UnitType::LightCavalry, UnitType::HorseArtillery,
-        {{"limbered: 0 + 1", 1, [](auto& f) { f.T().formation = Formation::MarchColumn; }},
-         {"12 pounders: 24 + 1", 25, [](auto& f) { f.T().weapon = Weapon::TwelvePounder; }},
-         {"3 pounders: 12 + 1", 13, [](auto& f) { f.T().weapon = Weapon::ThreePounder; }}});
-    const auto plain = [](AnswerField&) {};
-    // 8 x 3 x 6 / 8 - 2; quality counts for a guard that answers
-    ExpectAnswers(UnitType::LineInfantry, UnitType::GuardInfantry, {{"Prussian", 16, plain}},
-                  kFrench, kPrussian);
-    ExpectAnswers(UnitType::LineInfantry, UnitType::GuardInfantry,
-                  {{"British", 22, plain},
-                   {"British elite", 23, [](auto& f) { f.T().quality = Quality::Elite; }}});
-    ExpectAnswers(UnitType::LineInfantry, UnitType::LightInfantry,
-                  {{"skirmish line of 3: 1 x 1.25 x 6 - 1", 6, [](auto& f) {
-                        f.T().strength = 3;
-                        f.T().formation = Formation::OpenOrder;
-                    }}});
-}
-
-// The first slots of area 1 on Quatre Bras lie behind a stream.
-TEST(DefenceStrike, AtAStream) {
-    FieldPlan plan = RowOfThree();
-    plan.mapNumber = 1;
-    plan.redraw = [](std::vector<AreaRow>& rows) {
-        rows[0].frenchSlots = {{{2, 2}, {5, 2}, {7, 4}}};
-        rows[0].alliedSlots = {{{3, 4}, {5, 4}, {1, 1}}};
-    };
+// An attacker who has just come over a stream, by the battlefield and his side: how many cells lie
+// behind one, and the sums of their columns, of their rows, and of both multiplied.
+TEST(DefenceStrike, GainsAtAStream) {
     struct StreamCase {
-        const char* name;
-        int slot;
-        int actionPoints;
-        UnitType defender;
-        int expected;
+        int mapNumber;
+        int attacker;
+        std::array<int, 4> sums;
     };
     const StreamCase cases[] = {
-        {"over the stream", 3, 0, UnitType::LineInfantry, 17},
-        {"has not moved", 3, 1, UnitType::LineInfantry, 15},
-        {"slot without a stream", 1, 0, UnitType::LineInfantry, 15},
-        {"horse defends no bank", 3, 0, UnitType::LightCavalry, 21},
+        {1, kFrench, {12, 239, 213, 5817}},   {1, kBritish, {12, 244, 174, 4979}},
+        {2, kFrench, {0, 0, 0, 0}},           {2, kBritish, {0, 0, 0, 0}},
+        {3, kFrench, {21, 1099, 621, 29599}}, {3, kPrussian, {21, 1123, 538, 25003}},
+        {4, kFrench, {3, 64, 156, 3345}},     {4, kPrussian, {3, 82, 159, 4360}},
+        {7, kFrench, {6, 444, 321, 22675}},   {7, kPrussian, {6, 464, 303, 22716}},
+        {8, kFrench, {0, 0, 0, 0}},           {8, kPrussian, {0, 0, 0, 0}},
     };
     for (const StreamCase& stream : cases) {
-        AttackField field(plan);
-        Unit attacker = Fighter(UnitType::LineInfantry);
-        attacker.actionPoints = stream.actionPoints;
-        const UnitId attackerId = field.Add(kFrench, 1, stream.slot, attacker);
-        const UnitId targetId = field.Add(kBritish, 1, 1, Fighter(stream.defender));
-        field.Prepare(attackerId);
-        field.game.battle.targetUnit = targetId.index;
-        field.game.grid.LightAll();
-        EXPECT_EQ(ComputeDefenceStrike(field.game).Value(), stream.expected) << stream.name;
-        EXPECT_EQ(field.game.battle.streamCrossed, stream.expected == 17 ? 1 : 0) << stream.name;
+        FieldPlan plan = RowOfThree();
+        plan.columns = 14;
+        plan.areaHeight = 80;
+        Duel duel({.actionPoints = 0}, {}, plan, stream.attacker,
+                  stream.attacker == kFrench ? kPrussian : kFrench);
+        duel.Face();
+        duel.game.header.mapNumber = stream.mapNumber;
+        duel.game.grid.LightAll();
+        std::array<int, 4> sums{};
+        for (int y = 1; y < 80; ++y) {
+            for (int x = 1; x < 112; ++x) {
+                duel.A().SetPlace({x, y});
+                const int strike = ComputeDefenceStrike(duel.game).Value();
+                EXPECT_EQ(strike, duel.game.battle.streamCrossed == 1 ? 17 : 15);
+                if (strike == 15) continue;
+                ++sums[0];
+                sums[1] += x;
+                sums[2] += y;
+                sums[3] += x * y;
+            }
+        }
+        EXPECT_EQ(sums, stream.sums) << stream.mapNumber << ", army " << stream.attacker;
+    }
+}
+
+TEST(DefenceStrike, GainsAtAStreamOnlyAsFootFromWhoCameInSight) {
+    struct BankCase {
+        const char* name;
+        Soldier attacker;
+        UnitType defender;
+        bool lit;
+        int expected;
+    };
+    const BankCase cases[] = {
+        {"over the stream", {.actionPoints = 0}, LineInfantry, true, 17},
+        {"has not moved", {.actionPoints = 1}, LineInfantry, true, 15},
+        {"in the dark", {.actionPoints = 0}, LineInfantry, false, 15},
+        {"horse defends no bank", {.actionPoints = 0}, LightCavalry, true, 21},
+    };
+    for (const BankCase& bank : cases) {
+        Duel duel(bank.attacker, {bank.defender});
+        duel.Face();
+        duel.game.header.mapNumber = 1;
+        duel.A().SetPlace({7, 4});
+        bank.lit ? duel.game.grid.LightAll() : duel.game.grid.ShadeAll();
+        EXPECT_EQ(ComputeDefenceStrike(duel.game).Value(), bank.expected) << bank.name;
     }
 }
 
 TEST(TerrainDefence, IsThatOfTheBestSlot) {
     struct GroundCase {
-        const char* name;
-        int expected;
-        std::function<void(MapCell&)> paint;
+        int defence;
+        std::vector<int> tiles;
     };
     const GroundCase cases[] = {
-        {"clear", 0, [](MapCell&) {}},
-        {"field", 1, [](MapCell& cell) { cell.terrainTile = 1; }},
-        {"rough", 1, [](MapCell& cell) { cell.terrainTile = 11; }},
-        {"village", 2, [](MapCell& cell) { cell.terrainTile = 24; }},
-        {"orchard", 2, [](MapCell& cell) { cell.terrainTile = 8; }},
-        {"marsh", 2, [](MapCell& cell) { cell.terrainTile = 12; }},
-        {"swamp", 2, [](MapCell& cell) { cell.terrainTile = 65; }},
-        {"vineyard", 2, [](MapCell& cell) { cell.terrainTile = 27; }},
-        {"palisade", 2, [](MapCell& cell) { cell.overlayTile = 104; }},
-        {"woodland", 3, [](MapCell& cell) { cell.terrainTile = 54; }},
-        {"building", 3, [](MapCell& cell) { cell.terrainTile = 84; }},
-        {"rocks", 3, [](MapCell& cell) { cell.terrainTile = 71; }},
-        {"forest", 4, [](MapCell& cell) { cell.terrainTile = 42; }},
-        {"fire", 4, [](MapCell& cell) { cell.roadTile = kFire; }},
-        {"smoke", 0, [](MapCell& cell) { cell.roadTile = kSmoke; }},
-        {"river", 0, [](MapCell& cell) { cell.terrainTile = 18; }},
+        {1, {1, 9, 11, 5, 18, 99}},  // field, rough; clear ground, rivers and tents beside a field
+        {2, {24, 26, 6, 8, 12, 14, 63, 65, 27, 29}},
+        {3, {15, 17, 30, 35, 54, 61, 72, 75, 39, 41, 84, 89, 66, 71}},
+        {4, {42, 47}},
     };
-    for (const GroundCase& ground : cases) {
+    const auto defenceWith = [](const std::function<void(MapCell&)>& paint) {
         FieldPlan plan = RowOfThree();
         plan.paint = [&](Cell cell, MapCell& mapCell) {
             if (cell == Cell{9, 1}) mapCell.terrainTile = 1;    // the first French slot of area 2
-            if (cell == Cell{13, 4}) ground.paint(mapCell);     // its third Allied slot
+            if (cell == Cell{13, 4}) paint(mapCell);            // its third Allied slot
             if (cell == Cell{10, 2}) mapCell.terrainTile = 42;  // between the slots: no matter
         };
         AttackField field(plan);
-        field.TakeInHand(field.Add(kFrench, AttackField::kMiddle, 1, Fighter(UnitType::Leader)));
+        field.TakeInHand(field.Add(kFrench, AttackField::kMiddle, 1, Fighter(Leader)));
         SelectArea(field.game);
         ComputeTerrainDefence(field.game);
-        EXPECT_EQ(field.game.battle.terrainDefence, std::max(1, ground.expected)) << ground.name;
+        return field.game.battle.terrainDefence;
+    };
+    for (const GroundCase& ground : cases) {
+        for (int tile : ground.tiles) {
+            EXPECT_EQ(defenceWith([&](MapCell& cell) { cell.terrainTile = tile; }), ground.defence)
+                << tile;
+        }
     }
+    EXPECT_EQ(defenceWith([](MapCell& cell) { cell.overlayTile = 104; }), 2) << "palisade";
+    EXPECT_EQ(defenceWith([](MapCell& cell) { cell.roadTile = kFire; }), 4);
+    EXPECT_EQ(defenceWith([](MapCell& cell) { cell.roadTile = kSmoke; }), 1);
 }
 
 }  // namespace

@@ -18,6 +18,17 @@
 namespace varnstride {
 namespace {
 
+using namespace words;
+
+constexpr Soldier kRouted{.formation = NoFormation, .status = Routed, .morale = 8};
+
+AttackForecast ForecastOf(Duel& duel) {
+    const Result<AttackForecast> result =
+        ForecastAttack(duel.game, {.attacker = duel.attackerId, .target = duel.targetId});
+    EXPECT_TRUE(result.Ok());
+    return result.Get();
+}
+
 double SumOf(const std::vector<Chance<AttackOutcome>>& outcomes) {
     return std::accumulate(
         outcomes.begin(), outcomes.end(), 0.0,
@@ -59,25 +70,15 @@ TEST(DicePaths, ThrowManyDiceAtOnce) {
 }
 
 // Two dice of eight on the target, which leaves 49 : 14 : 1 of 64 for a loss of 0, 1 and 2. The
-// guns draw no answer.
+// guns draw no answer. 24 / 4 = 6, halved 3.
 TEST(Forecast, OfGunsByHand) {
-    AttackField field;
-    Unit guns = Fighter(UnitType::FieldArtillery);
-    guns.weapon = Weapon::TwelvePounder;
-    guns.strength = 3;
-    const UnitId attacker = field.Add(kFrench, field.kMiddle, 1, guns);
-    Unit target = Fighter(UnitType::LineInfantry);
-    target.strength = 3;  // 24 / 4 = 6, halved 3
-    const UnitId targetId = field.Add(kBritish, field.kMiddle, 1, target);
-    const Result<AttackForecast> result =
-        ForecastAttack(field.game, {.attacker = attacker, .target = targetId});
-    ASSERT_TRUE(result.Ok());
-    const AttackForecast& forecast = result.Get();
-    const SideOutcome unhurt{0, 24, UnitStatus::Ordered};
+    Duel duel({.type = FieldArtillery, .strength = 3, .weapon = TwelvePounder}, {.strength = 3});
+    const AttackForecast forecast = ForecastOf(duel);
+    const SideOutcome unhurt{0, 24, Ordered};
     const std::vector<std::pair<AttackOutcome, double>> expected = {
-        {{{0, 21, UnitStatus::Ordered}, unhurt}, 49 / 64.0},
-        {{{1, 20, UnitStatus::Ordered}, unhurt}, 14 / 64.0},
-        {{{2, 19, UnitStatus::Unsteady}, unhurt}, 1 / 64.0},
+        {{{0, 21, Ordered}, unhurt}, 49 / 64.0},
+        {{{1, 20, Ordered}, unhurt}, 14 / 64.0},
+        {{{2, 19, Unsteady}, unhurt}, 1 / 64.0},
     };
     ASSERT_EQ(forecast.outcomes.size(), expected.size());
     for (std::size_t line = 0; line < expected.size(); ++line) {
@@ -91,19 +92,10 @@ TEST(Forecast, OfGunsByHand) {
 }
 
 // A routed unit that runs loses a point with one throw in six, here 5462 of 32768.
+// 4 x 2 + 2 = 10, / 3 = 3, halved 1: no dice.
 TEST(Forecast, OfARunByHand) {
-    AttackField field;
-    Unit weak = Fighter(UnitType::LineInfantry);
-    weak.quality = Quality::Militia;
-    weak.formation = Formation::NoFormation;  // 4 x 2 + 2 = 10, / 3 = 3, halved 1: no dice
-    const UnitId attacker = field.Add(kFrench, field.kMiddle, 1, weak);
-    Unit routed = Fighter(UnitType::LineInfantry);
-    routed.morale = 8;
-    routed.status = UnitStatus::Routed;
-    routed.formation = Formation::NoFormation;
-    const UnitId target = field.Add(kBritish, field.kMiddle, 1, routed);
-    const AttackForecast forecast =
-        ForecastAttack(field.game, {.attacker = attacker, .target = target}).Get();
+    Duel duel({.formation = NoFormation, .quality = Militia}, kRouted);
+    const AttackForecast forecast = ForecastOf(duel);
     ASSERT_EQ(forecast.outcomes.size(), 2U);
     EXPECT_EQ(forecast.outcomes[0].what.target.morale, 7);
     EXPECT_EQ(forecast.outcomes[1].what.target.strengthLost, 1);
@@ -114,25 +106,23 @@ TEST(Forecast, OfARunByHand) {
 }
 
 TEST(Forecast, LeavesTheGameAlone) {
-    AttackField field;
-    const UnitId attacker = field.Add(kFrench, field.kMiddle, 1, Fighter(UnitType::LineInfantry));
-    const UnitId target = field.Add(kBritish, field.kMiddle, 1, Fighter(UnitType::LineInfantry));
-    const std::uint32_t dice = field.game.generator.State();
-    ASSERT_TRUE(ForecastAttack(field.game, {.attacker = attacker, .target = target}).Ok());
-    EXPECT_EQ(field.game.generator.State(), dice);
-    EXPECT_EQ(field.game.generator.Paths(), nullptr);
-    EXPECT_EQ(field.game.At(target).morale, 24);
-    EXPECT_EQ(field.game.At(attacker).ammunition, 8);
-    EXPECT_EQ(field.game.state.selectedCell, kNoCell);
-    EXPECT_TRUE(field.witness.Heard().empty());
-    EXPECT_TRUE(field.witness.reports.empty());
+    Duel duel({}, {});
+    const std::uint32_t dice = duel.game.generator.State();
+    ForecastOf(duel);
+    EXPECT_EQ(duel.game.generator.State(), dice);
+    EXPECT_EQ(duel.game.generator.Paths(), nullptr);
+    EXPECT_EQ(duel.T().morale, 24);
+    EXPECT_EQ(duel.A().ammunition, 8);
+    EXPECT_EQ(duel.game.state.selectedCell, kNoCell);
+    EXPECT_TRUE(duel.witness.Heard().empty());
+    EXPECT_TRUE(duel.witness.reports.empty());
 }
 
 TEST(Forecast, SaysWhyThereIsNone) {
     AttackField field;
-    const UnitId attacker = field.Add(kFrench, field.kMiddle, 1, Fighter(UnitType::LineInfantry));
-    const UnitId friendly = field.Add(kFrench, field.kMiddle, 2, Fighter(UnitType::LineInfantry));
-    const UnitId away = field.Add(kBritish, field.kEast, 1, Fighter(UnitType::LineInfantry));
+    const UnitId attacker = field.Add(kFrench, field.kMiddle, 1, Fighter(LineInfantry));
+    const UnitId friendly = field.Add(kFrench, field.kMiddle, 2, Fighter(LineInfantry));
+    const UnitId away = field.Add(kBritish, field.kEast, 1, Fighter(LineInfantry));
     struct Objection {
         AttackPlan plan;
         const char* message;
@@ -152,151 +142,65 @@ TEST(Forecast, SaysWhyThereIsNone) {
     }
 }
 
-// One attack out of the life of an army.
-struct Encounter {
-    const char* name;
-    std::function<AttackPlan(AttackField&)> setUp;
+struct Bystander {
+    int army;
+    int area;
+    int slot;
+    Soldier soldier;
 };
 
-Unit With(Unit unit, const std::function<void(Unit&)>& change) {
-    change(unit);
-    return unit;
-}
+// One attack out of the life of an army; in a barrage the guns stand one area west.
+struct Encounter {
+    const char* name;
+    Soldier attacker;
+    Soldier target;
+    std::vector<Bystander> others = {};
+    bool bombard = false;
+    std::optional<TacticsPlayed> tactics = {};
 
-AttackPlan MeetInTheMiddle(AttackField& field, const Unit& attacker, const Unit& target) {
-    return {.attacker = field.Add(kFrench, AttackField::kMiddle, 1, attacker),
-            .target = field.Add(kBritish, AttackField::kMiddle, 1, target)};
-}
+    AttackPlan SetUp(AttackField& field) const {
+        field.game.options.smokeOn = 1;
+        field.game.time.windSpeed = 8;
+        for (const Bystander& other : others)
+            field.Add(other.army, other.area, other.slot, other.soldier.Made());
+        const int from = bombard ? AttackField::kWest : AttackField::kMiddle;
+        return {.attacker = field.Add(kFrench, from, 1, attacker.Made()),
+                .target = field.Add(kBritish, AttackField::kMiddle, 1, target.Made()),
+                .bombard = bombard,
+                .tactics = tactics};
+    }
+};
 
-const std::vector<Encounter>& VariedEncounters() {
-    using enum UnitType;
-    static const std::vector<Encounter> encounters = {
-        {"columns on a line",
-         [](AttackField& field) {
-             return MeetInTheMiddle(
-                 field,
-                 With(Fighter(LineInfantry),
-                      [](Unit& unit) { unit.formation = Formation::AttackColumn; }),
-                 Fighter(LineInfantry));
-         }},
-        {"volleys in smoke",
-         [](AttackField& field) {
-             field.game.options.smokeOn = 1;
-             field.game.time.windSpeed = 8;
-             return MeetInTheMiddle(field, Fighter(LightInfantry), Fighter(GuardInfantry));
-         }},
-        {"cuirassiers on veterans who may form square",
-         [](AttackField& field) {
-             field.game.state.moveCost = 0;
-             return MeetInTheMiddle(
-                 field, Fighter(HeavyCavalry),
-                 With(Fighter(LineInfantry), [](Unit& unit) { unit.quality = Quality::Veteran; }));
-         }},
-        {"shaken hussars against lancers, both tested",
-         [](AttackField& field) {
-             return MeetInTheMiddle(field,
-                                    With(Fighter(LightCavalry),
-                                         [](Unit& unit) {
-                                             unit.morale = 17;
-                                             unit.status = UnitStatus::Unsteady;
-                                             unit.quality = Quality::Militia;
-                                         }),
-                                    With(Fighter(Lancers), [](Unit& unit) {
-                                        unit.morale = 13;
-                                        unit.status = UnitStatus::Shaken;
-                                    }));
-         }},
-        {"a shaken target that may crumble and run",
-         [](AttackField& field) {
-             return MeetInTheMiddle(field, Fighter(GuardInfantry),
-                                    With(Fighter(LineInfantry), [](Unit& unit) {
-                                        unit.morale = 11;
-                                        unit.status = UnitStatus::Shaken;
-                                    }));
-         }},
-        {"three units that may run",
-         [](AttackField& field) {
-             const Unit wavering = With(Fighter(LineInfantry), [](Unit& unit) {
-                 unit.morale = 11;
-                 unit.status = UnitStatus::Shaken;
-             });
-             const AttackPlan plan = MeetInTheMiddle(field, Fighter(GuardInfantry), wavering);
-             field.Add(kBritish, AttackField::kMiddle, 2, wavering);
-             field.Add(kBritish, AttackField::kMiddle, 3, wavering);
-             return plan;
-         }},
-        {"the last man of a routed unit",
-         [](AttackField& field) {
-             return MeetInTheMiddle(field, Fighter(LightCavalry),
-                                    With(Fighter(LightInfantry), [](Unit& unit) {
-                                        unit.strength = 1;
-                                        unit.morale = 6;
-                                        unit.status = UnitStatus::Routed;
-                                        unit.formation = Formation::NoFormation;
-                                    }));
-         }},
-        {"canister on a square",
-         [](AttackField& field) {
-             return MeetInTheMiddle(field,
-                                    With(Fighter(HorseArtillery),
-                                         [](Unit& unit) { unit.weapon = Weapon::TwelvePounder; }),
-                                    With(Fighter(LineInfantry),
-                                         [](Unit& unit) { unit.formation = Formation::Square; }));
-         }},
-        {"a barrage",
-         [](AttackField& field) {
-             AttackPlan plan{
-                 .attacker = field.Add(kFrench, AttackField::kWest, 1, Fighter(FieldArtillery)),
-                 .target = field.Add(kBritish, AttackField::kMiddle, 1, Fighter(LineInfantry)),
-                 .bombard = true};
-             field.Add(kFrench, AttackField::kMiddle, 1, Fighter(LightInfantry));
-             return plan;
-         }},
-        {"a bayonet charge that costs the attacker dear",
-         [](AttackField& field) {
-             return MeetInTheMiddle(field,
-                                    With(Fighter(LineInfantry),
-                                         [](Unit& unit) {
-                                             unit.activity = UnitActivity::BayonetCharge;
-                                             unit.strength = 1;
-                                         }),
-                                    With(Fighter(GuardInfantry), [](Unit& unit) {
-                                        unit.quality = Quality::Elite;
-                                        unit.strength = 6;
-                                    }));
-         }},
-        {"a flank attack",
-         [](AttackField& field) {
-             AttackPlan plan = MeetInTheMiddle(field, Fighter(LineInfantry), Fighter(LineInfantry));
-             plan.tactics = TacticsPlayed{4, 3};
-             field.Add(kFrench, AttackField::kMiddle, 2, Fighter(LineInfantry));
-             return plan;
-         }},
-        {"a surrender",
-         [](AttackField& field) {
-             const AttackPlan plan = MeetInTheMiddle(field, Fighter(LineInfantry),
-                                                     With(Fighter(LineInfantry), [](Unit& unit) {
-                                                         unit.strength = 6;
-                                                         unit.morale = 2;
-                                                         unit.status = UnitStatus::Routed;
-                                                     }));
-             field.Add(kFrench, AttackField::kEast, 1, Fighter(LineInfantry));
-             return plan;
-         }},
-        {"hit hard by many dice",
-         [](AttackField& field) {
-             return MeetInTheMiddle(
-                 field,
-                 With(Fighter(GuardInfantry),
-                      [](Unit& unit) {
-                          unit.strength = 6;
-                          unit.formation = Formation::AttackColumn;
-                      }),
-                 With(Fighter(Engineers), [](Unit& unit) { unit.strength = 2; }));
-         }},
-    };
-    return encounters;
-}
+constexpr Soldier kWavering{.status = Shaken, .morale = 11};
+
+const std::vector<Encounter> kEncounters = {
+    {"columns on a line", {.formation = AttackColumn}, {}},
+    {"volleys", {LightInfantry}, {GuardInfantry}},
+    {"cuirassiers on veterans who may form square", {HeavyCavalry}, {.quality = Veteran}},
+    {"shaken hussars against lancers, both tested",
+     {.type = LightCavalry, .status = Unsteady, .quality = Militia, .morale = 17},
+     {.type = Lancers, .status = Shaken, .morale = 13}},
+    {"a shaken target that may crumble and run", {GuardInfantry}, kWavering},
+    {"three units that may run",
+     {GuardInfantry},
+     kWavering,
+     {{kBritish, 2, 2, kWavering}, {kBritish, 2, 3, kWavering}}},
+    {"the last man of a routed unit",
+     {LightCavalry},
+     {LightInfantry, NoFormation, 1, Routed, Experienced, 6}},
+    {"canister on a square",
+     {.type = HorseArtillery, .weapon = TwelvePounder},
+     {.formation = Square}},
+    {"a barrage", {FieldArtillery}, {}, {{kFrench, 2, 1, {LightInfantry}}}, true},
+    {"a bayonet charge that costs the attacker dear",
+     {.strength = 1, .activity = BayonetCharge},
+     {.type = GuardInfantry, .strength = 6, .quality = Elite}},
+    {"a flank attack", {}, {}, {{kFrench, 2, 2, {}}}, false, TacticsPlayed{4, 3}},
+    {"a surrender", {}, {.strength = 6, .status = Routed, .morale = 2}, {{kFrench, 3, 1, {}}}},
+    {"hit hard by many dice",
+     {.type = GuardInfantry, .formation = AttackColumn, .strength = 6},
+     {.type = Engineers, .strength = 2}},
+};
 
 // Plays the same attack again and again: only what an attack touches is put back in between.
 class Rehearsal {
@@ -358,10 +262,10 @@ int PlaysAnEncounter() {
 // was not foretold.
 TEST(Forecast, AgreesWithPlay) {
     const int plays = PlaysAnEncounter();
-    for (const Encounter& encounter : VariedEncounters()) {
+    for (const Encounter& encounter : kEncounters) {
         SCOPED_TRACE(encounter.name);
         AttackField field;
-        const AttackPlan plan = encounter.setUp(field);
+        const AttackPlan plan = encounter.SetUp(field);
         const Result<AttackForecast> result = ForecastAttack(field.game, plan);
         ASSERT_TRUE(result.Ok()) << result.Message();
         EXPECT_NEAR(SumOf(result.Get().outcomes), 1.0, 1e-9);
@@ -384,16 +288,16 @@ TEST(Forecast, AgreesWithPlay) {
 // What the encounters are there for does happen in them.
 TEST(Forecast, CoversTheTurnsOfFortune) {
     std::map<std::string, AttackForecast> forecasts;
-    for (const Encounter& encounter : VariedEncounters()) {
+    for (const Encounter& encounter : kEncounters) {
         AttackField field;
-        const AttackPlan plan = encounter.setUp(field);
+        const AttackPlan plan = encounter.SetUp(field);
         forecasts.emplace(encounter.name, ForecastAttack(field.game, plan).Get());
     }
     const auto targetDies = [](const AttackOutcome& outcome) {
-        return outcome.target.status == UnitStatus::Destroyed;
+        return outcome.target.status == Destroyed;
     };
     const auto attackerDies = [](const AttackOutcome& outcome) {
-        return outcome.attacker.status == UnitStatus::Destroyed;
+        return outcome.attacker.status == Destroyed;
     };
     EXPECT_GT(ChanceThat(forecasts.at("the last man of a routed unit"), targetDies), 0.1);
     EXPECT_GT(ChanceThat(forecasts.at("a surrender"), targetDies), 0.9);

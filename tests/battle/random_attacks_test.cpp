@@ -73,17 +73,16 @@ struct Melee : AttackField {
         for (int slot = 1; slot <= units; ++slot)
             all.push_back(Add(army, area, slot, RandomFighter(chance)));
     }
+    // What a side has left and what is booked as its loss.
+    int Account(Side side) const {
+        int sum = side == Side::French ? game.loss.frenchLossSP : game.loss.alliedLossSP;
+        for (UnitId id : all)
+            sum += SideOf(id.army) == side ? game.At(id).strength : 0;
+        return sum;
+    }
 
     std::vector<UnitId> all;
 };
-
-int StrengthOf(const Melee& melee, Side side) {
-    int strength = 0;
-    for (UnitId id : melee.all) {
-        if (SideOf(id.army) == side) strength += melee.game.At(id).strength;
-    }
-    return strength;
-}
 
 void ExpectUnitSound(const Game& game, UnitId id) {
     const Unit& unit = game.At(id);
@@ -101,59 +100,53 @@ void ExpectUnitSound(const Game& game, UnitId id) {
 
 void ExpectSound(const Melee& melee) {
     const Game& game = melee.game;
-    for (UnitId id : melee.all)
+    int alive = 0;
+    for (UnitId id : melee.all) {
         ExpectUnitSound(game, id);
+        alive += game.At(id).strength > 0 ? 1 : 0;
+    }
     int marks = 0;
     for (const AreaRow& row : game.atlas->Rows()) {
         for (Cell slot : row.Slots())
             marks += IsHeld(game, slot) ? 1 : 0;
     }
-    const auto alive = std::count_if(melee.all.begin(), melee.all.end(),
-                                     [&](UnitId id) { return game.At(id).strength > 0; });
     EXPECT_EQ(marks, alive);
     EXPECT_EQ(game.battle.targetUnit, 0);
     EXPECT_FALSE(game.battle.attackRunning);
     EXPECT_EQ(game.state.retreatUnderFire, 0);
 }
 
-std::vector<UnitStatus> StatusesOf(const Melee& melee) {
-    std::vector<UnitStatus> statuses;
-    for (UnitId id : melee.all)
-        statuses.push_back(melee.game.At(id).status);
-    return statuses;
-}
-
 void AttackOnce(Melee& melee, Chance& chance) {
-    const UnitId attacker =
-        melee.all[static_cast<std::size_t>(chance.From(0, static_cast<int>(melee.all.size()) - 1))];
+    const int count = static_cast<int>(melee.all.size());
+    const UnitId attacker = melee.all[static_cast<std::size_t>(chance.From(0, count - 1))];
     if (melee.game.At(attacker).strength == 0) return;
     melee.game.At(attacker).canMove = 1;
-    const int french = StrengthOf(melee, Side::French) + melee.game.loss.frenchLossSP;
-    const int allied = StrengthOf(melee, Side::Allied) + melee.game.loss.alliedLossSP;
-    const std::vector<UnitStatus> before = StatusesOf(melee);
+    const int french = melee.Account(Side::French);
+    const int allied = melee.Account(Side::Allied);
+    std::vector<UnitStatus> before;
+    for (UnitId id : melee.all)
+        before.push_back(melee.game.At(id).status);
     melee.Attack(attacker);
     ExpectSound(melee);
-    EXPECT_EQ(StrengthOf(melee, Side::French) + melee.game.loss.frenchLossSP, french);
-    EXPECT_EQ(StrengthOf(melee, Side::Allied) + melee.game.loss.alliedLossSP, allied);
+    EXPECT_EQ(melee.Account(Side::French), french);
+    EXPECT_EQ(melee.Account(Side::Allied), allied);
     EXPECT_EQ(melee.game.state.currentArmy, attacker.army);
-    const std::vector<UnitStatus> after = StatusesOf(melee);
-    for (std::size_t unit = 0; unit < after.size(); ++unit)
-        EXPECT_LE(after[unit], before[unit]);
+    for (std::size_t unit = 0; unit < before.size(); ++unit)
+        EXPECT_LE(melee.game.At(melee.all[unit]).status, before[unit]);
 }
 
 TEST(RandomAttacks, KeepTheFieldSound) {
-    int fought = 0;
+    std::size_t fought = 0;
     for (unsigned seed = 1; seed <= 1000; ++seed) {
         SCOPED_TRACE("seed " + std::to_string(seed));
         Chance chance(seed);
         Melee melee(chance);
         if (melee.all.empty()) continue;
-        for (int attack = 0; attack < 20 && !testing::Test::HasFailure(); ++attack) {
+        for (int attack = 0; attack < 20 && !testing::Test::HasFailure(); ++attack)
             AttackOnce(melee, chance);
-        }
-        fought += static_cast<int>(melee.witness.reports.size());
+        fought += melee.witness.reports.size();
     }
-    EXPECT_GT(fought, 2000);
+    EXPECT_GT(fought, 2000U);
 }
 
 }  // namespace
