@@ -1,6 +1,7 @@
 #include "forge_art/overlays.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "forge_art/chance.h"
@@ -22,9 +23,11 @@ bool FallsAt(int mask, int side) {
     return (mask >> ((side + kSideCount) % kSideCount) & 1) != 0;
 }
 
-// Sides that look away from the light.
-bool IsShaded(int side) {
-    return side == kEast || side == kSouthEast || side == kSouthWest;
+// How far a slope towards a side lies in the shade: 0 faces the light, 1 looks away from it.
+constexpr std::array<double, kSideCount> kShadeOf = {0.55, 0.85, 1.0, 0.75, 0.30, 0.15};
+
+double ShadeOf(int side) {
+    return kShadeOf[static_cast<std::size_t>(side)];
 }
 
 QRect RoomOf(const HexShape& hex) {
@@ -44,8 +47,8 @@ void PutStroke(Tile& tile, const HexShape& hex, QPointF from, QPointF to, QRgb c
     }
 }
 
-// Strokes run down a slope, from its crest inside the cell to the side. They shorten towards an
-// end of the side where the slope ends too.
+// Strokes run down a slope, from its crest inside the cell to the side. A line of height never
+// ends, so each side's strokes go on in those of the next cell.
 class SlopePainter {
  public:
     SlopePainter(const Palette& palette, const HexShape& hex, int mask)
@@ -56,7 +59,7 @@ class SlopePainter {
           tile_(RoomOf(hex)) {}
 
     Tile Paint() {
-        for (int side = 0; side < kSideCount; ++side)
+        for (const int side : {kNorthWest, kNorthEast, kWest, kEast, kSouthWest, kSouthEast})
             if (FallsAt(mask_, side)) PaintSide(side);
         return tile_;
     }
@@ -66,38 +69,33 @@ class SlopePainter {
         const QPointF begin = hex_.Corner(side);
         const QPointF end = hex_.Corner((side + 1) % kSideCount);
         const double length = std::hypot(end.x() - begin.x(), end.y() - begin.y());
-        const double spacing = IsShaded(side) ? 2.1 : 3.0;
-        const int count = static_cast<int>(length / spacing);
+        const double spacing = 2.6 - 0.6 * ShadeOf(side);
+        const int count = static_cast<int>(std::lround(length / spacing));
         for (int i = 0; i < count; ++i) {
             const double share = (i + 0.5) / count;
-            PaintStroke(side, begin + (end - begin) * share, LengthAt(side, share));
+            PaintStroke(side, begin + (end - begin) * share, share, i % 2 == 0);
         }
     }
 
-    // As a part of the slope's full width.
-    double LengthAt(int side, double share) const {
-        const double reach = 0.34;
-        double length = 1;
-        if (!FallsAt(mask_, side - 1)) length = std::min(length, 0.35 + share / reach);
-        if (!FallsAt(mask_, side + 1)) length = std::min(length, 0.35 + (1 - share) / reach);
-        return std::min(length, 1.0);
-    }
-
-    void PaintStroke(int side, QPointF foot, double part) {
+    // Towards a corner from which the slope goes round the cell, strokes fan out; towards one from
+    // which it goes on beside the cell they lean the other way.
+    QPointF DirectionAt(int side, QPointF foot, double share) const {
         const QPointF gate = hex_.Gate(side);
-        const double distance = std::hypot(gate.x(), gate.y());
-        const QPointF straight = gate / distance;
-        const double radius = std::hypot(foot.x(), foot.y());
-        const QPointF fanned = straight * 0.72 + foot / radius * 0.28;
-        const double deep = (IsShaded(side) ? 0.30 : 0.24) * hex_.width;
-        const double length = deep * part * chance_.Between(0.72, 1.05);
-        const QPointF low = foot - fanned * (0.02 * hex_.width);
-        const QPointF high = low - fanned * length;
-        const QRgb ink = palette_[IsShaded(side) ? "slope.shade" : "slope.light"];
+        const QPointF straight = gate / std::hypot(gate.x(), gate.y());
+        const QPointF spread = foot / std::hypot(foot.x(), foot.y()) - straight;
+        const bool rounds = FallsAt(mask_, share < 0.5 ? side - 1 : side + 1);
+        return straight + spread * (rounds ? 0.9 : -0.5);
+    }
+
+    void PaintStroke(int side, QPointF foot, double share, bool isLong) {
+        const double deep = (0.24 + 0.14 * ShadeOf(side)) * hex_.width;
+        const double length = deep * chance_.Between(0.86, 1.04) * (isLong ? 1 : 0.68);
+        const QPointF down = DirectionAt(side, foot, share);
+        const QPointF low = foot - down * (0.02 * hex_.width);
+        const QPointF high = low - down * length;
+        const QRgb ink = Mix(palette_["slope.light"], palette_["slope.shade"], ShadeOf(side));
         PutStroke(tile_, hex_, high, low, ink);
-        if (IsShaded(side)) {
-            PutStroke(tile_, hex_, high, high + (low - high) * 0.35, palette_["slope.crest"]);
-        }
+        if (isLong) PutStroke(tile_, hex_, high, high + (low - high) * 0.45, Scaled(ink, 0.86));
     }
 
     const Palette& palette_;

@@ -113,8 +113,9 @@ Tile PaintOrchard(const Studio& studio, const HexShape& hex, int variant) {
     Chance chance(static_cast<std::uint32_t>(variant) + 211);
     const double scale = hex.width / 32.0;
     std::vector<Plant> plants;
+    int gap = chance.Below(9);  // a tree that has died
     for (const QPointF& place : Places(hex, 3)) {
-        if (chance.OneIn(12)) continue;
+        if (gap-- == 0) continue;
         plants.push_back({place.x() + chance.Between(-0.4, 0.4), place.y() + 1,
                           chance.Between(2.8, 3.4) * scale, chance.Between(0, 0.35)});
     }
