@@ -105,31 +105,53 @@ class SlopePainter {
     Tile tile_;
 };
 
-// Pointed stakes side by side, with a ditch before them; an abatis has felled trees instead.
-Tile PaintPalisade(const Palette& palette, const HexShape& hex, int number) {
+// Pointed stakes side by side behind a ditch.
+void DrawStakes(Plate& plate, const Palette& palette, Chance& chance) {
+    plate.Oval(0.5, 5.6, 15.5, 2.6, palette["work.ditch"]);
+    for (double x = -14; x <= 14; x += 3.1) {
+        const double top = -6 + chance.Between(-1, 1);
+        plate.Area({{x - 1.5, 5}, {x - 1.5, top}, {x, top - 2.4}, {x + 1.5, top}, {x + 1.5, 5}},
+                   palette["work.line"]);
+        plate.Box(x - 0.9, top + 0.3, 1.1, 4.4 - top, palette["work.wood"]);
+    }
+    plate.Box(-15, -1.2, 30, 1.4, palette["work.line"]);
+}
+
+// Trees felled one over the other, their tops towards the enemy; they fill the cell, so that a row
+// of cells makes one obstacle whichever way it runs.
+void DrawAbatis(Plate& plate, const Palette& palette, Chance& chance) {
+    for (int i = 0; i < 7; ++i) {
+        const double y = -13 + i * 4.2 + chance.Between(-0.8, 0.8);
+        const double x = chance.Between(-12, -5);
+        const double tip = x + chance.Between(11, 15);
+        const double drop = chance.Between(-2.5, 2.5);
+        plate.Line(x, y + 1.2, tip, y + drop + 1.2, 1.6, palette["shadow.grass"]);
+        plate.Line(x, y, tip, y + drop, 2.5, palette["work.line"]);
+        plate.Line(x, y - 0.3, tip, y + drop - 0.3, 1.2, palette["work.wood"]);
+        for (const double branch : {0.55, 0.75}) {
+            const double from = x + (tip - x) * branch;
+            plate.Line(from, y + drop * branch, from + 3, y + drop * branch - 3.4, 1.1,
+                       palette["work.line"]);
+            plate.Line(from, y + drop * branch, from + 3.4, y + drop * branch + 2.8, 1.1,
+                       palette["work.line"]);
+        }
+        if (chance.OneIn(2)) {
+            plate.Disc(tip, y + drop - 0.6, 2.3, palette["leaf.line"]);
+            plate.Disc(tip - 0.3, y + drop - 0.9, 1.6, palette["leaf.dark"]);
+        }
+    }
+}
+
+Tile PaintWork(const Palette& palette, const HexShape& hex, int number) {
+    constexpr int kLastAbatis = 69;
     const double scale = hex.width / 32.0;
     Plate plate(QRect(-20, -20, 40, 40));
     plate.Brush().scale(scale, scale);
     Chance chance(static_cast<std::uint32_t>(number) + 800);
-    plate.Oval(0.5, 5.6, 15.5, 2.6, palette["work.ditch"]);
-    if (number % 2 == 0) {
-        for (double x = -14; x <= 14; x += 3.1) {
-            const double top = -6 + chance.Between(-1, 1);
-            plate.Area({{x - 1.5, 5}, {x - 1.5, top}, {x, top - 2.4}, {x + 1.5, top}, {x + 1.5, 5}},
-                       palette["work.line"]);
-            plate.Box(x - 0.9, top + 0.3, 1.1, 4.4 - top, palette["work.wood"]);
-        }
-        plate.Box(-15, -1.2, 30, 1.4, palette["work.line"]);
-        return plate.Pressed();
-    }
-    for (int i = 0; i < 8; ++i) {
-        const double x = -13 + i * 3.7 + chance.Between(-1, 1);
-        const double lean = chance.Between(-4, 4);
-        plate.Line(x, 5, x + lean, -6, 1.9, palette["work.line"]);
-        plate.Line(x, 5, x + lean, -6, 0.9, palette["work.wood"]);
-        plate.Line(x + lean * 0.5, -0.5, x + lean * 0.5 + 4, -4.5, 1.1, palette["work.line"]);
-        plate.Line(x + lean * 0.5, -0.5, x + lean * 0.5 - 4, -3.5, 1.1, palette["work.line"]);
-        plate.Disc(x + lean * 0.6 + 2.6, -4.6, 1.2, palette["leaf.dark"]);
+    if (number <= kLastAbatis) {
+        DrawAbatis(plate, palette, chance);
+    } else {
+        DrawStakes(plate, palette, chance);
     }
     return plate.Pressed();
 }
@@ -142,7 +164,7 @@ std::vector<Tile> PaintAll(const Studio& studio, const HexShape& hex) {
     }
     for (int number = 0; number < kOverlayTiles; ++number) {
         if (!IsPalisade(number)) continue;
-        tiles[static_cast<std::size_t>(number)] = PaintPalisade(studio.palette, hex, number);
+        tiles[static_cast<std::size_t>(number)] = PaintWork(studio.palette, hex, number);
     }
     return tiles;
 }

@@ -27,7 +27,8 @@ struct Stroke {
 struct WayKind {
     std::vector<Stroke> strokes;
     std::vector<Stroke> smallStrokes;
-    double sway;  // how far the middle strays from a straight way
+    double sway;           // how far the middle strays from a straight way
+    bool spreads = false;  // broad water
 };
 
 const std::array<WayKind, 4>& WayKinds() {
@@ -50,7 +51,8 @@ const std::array<WayKind, 4>& WayKinds() {
           {"water.edge", 16.0, 0.2},
           {"water.river", 13.6, 0.6, true}},
          {{"water.bank", 9.0, -0.3}, {"water.river", 7.6, 0, true}},
-         2.0},
+         2.0,
+         true},
     }};
     return kinds;
 }
@@ -73,14 +75,27 @@ std::vector<int> SidesOf(int mask) {
     return sides;
 }
 
-// The lines of the ways through a cell. Two sides make one bend, others meet in the middle.
-QPainterPath PathOf(const HexShape& hex, int mask, double sway, std::size_t stroke) {
+bool RunsThroughBoth(int mask, int side) {
+    return Runs(mask, side) && Runs(mask, (side + 1) % kSideCount);
+}
+
+// Whether a way passes through in one bend. Water between two sides that meet spreads out instead.
+bool IsPassage(const WayKind& kind, int mask) {
+    if (std::popcount(static_cast<unsigned>(mask)) != 2) return false;
+    bool meets = false;
+    for (int side = 0; side < kSideCount; ++side)
+        meets = meets || RunsThroughBoth(mask, side);
+    return !meets || !kind.spreads;
+}
+
+// The lines of the ways through a cell; all that is no passage meets in the middle.
+QPainterPath PathOf(const HexShape& hex, const WayKind& kind, int mask, std::size_t stroke) {
     Chance chance(static_cast<std::uint32_t>(mask) * 7 + 3);
-    const double scale = hex.width / 32.0;
-    const QPointF middle(chance.Between(-sway, sway) * scale, chance.Between(-sway, sway) * scale);
+    const double sway = kind.sway * hex.width / 32.0;
+    const QPointF middle(chance.Between(-sway, sway), chance.Between(-sway, sway));
     const std::vector<int> sides = SidesOf(mask);
     QPainterPath path;
-    if (sides.size() == 2) {
+    if (IsPassage(kind, mask)) {
         path.moveTo(Outside(hex, sides[0], stroke));
         path.lineTo(hex.Gate(sides[0]));
         path.quadTo(middle * (sides[1] - sides[0] == 3 ? 2.0 : 1.0), hex.Gate(sides[1]));
@@ -95,10 +110,6 @@ QPainterPath PathOf(const HexShape& hex, int mask, double sway, std::size_t stro
     return path;
 }
 
-bool RunsThroughBoth(int mask, int side) {
-    return Runs(mask, side) && Runs(mask, (side + 1) % kSideCount);
-}
-
 // Where water runs through two sides that meet, it covers the corner between them as well, and a
 // little of the cells beyond, which are all water there.
 void FillCorners(Plate& plate, const HexShape& hex, int mask, QRgb color) {
@@ -106,7 +117,7 @@ void FillCorners(Plate& plate, const HexShape& hex, int mask, QRgb color) {
         if (!RunsThroughBoth(mask, side)) continue;
         const int next = (side + 1) % kSideCount;
         plate.Area(
-            {QPointF(0, 0), hex.Gate(side) * 1.3, hex.Corner(next) * 1.2, hex.Gate(next) * 1.3},
+            {QPointF(0, 0), hex.Gate(side) * 1.6, hex.Corner(next) * 1.38, hex.Gate(next) * 1.6},
             color);
     }
 }
@@ -115,15 +126,15 @@ Tile PaintWay(const Palette& palette, const HexShape& hex, const WayKind& kind, 
     const bool isNormal = hex.width == kNormalHex.width;
     const QRect area = isNormal ? QRect(-28, -32, 56, 64) : QRect(-14, -16, 28, 32);
     Plate plate(area);
-    const bool ends = std::popcount(static_cast<unsigned>(mask)) != 2;
     const std::vector<Stroke>& strokes = isNormal ? kind.strokes : kind.smallStrokes;
     for (std::size_t i = 0; i < strokes.size(); ++i) {
         const Stroke& stroke = strokes[i];
         const QRgb color = palette[stroke.color];
         plate.Brush().save();
         plate.Brush().translate(stroke.aside, stroke.aside);
-        plate.Curve(PathOf(hex, mask, kind.sway, i), stroke.width, color);
-        if (ends) plate.Disc(0, 0, stroke.width / 2 * (mask == 0 ? 1.3 : 1.0), color);
+        plate.Curve(PathOf(hex, kind, mask, i), stroke.width, color);
+        if (!IsPassage(kind, mask))
+            plate.Disc(0, 0, stroke.width / 2 * (mask == 0 ? 1.3 : 1.0), color);
         if (stroke.fills) FillCorners(plate, hex, mask, color);
         plate.Brush().restore();
     }
