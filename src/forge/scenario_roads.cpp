@@ -133,6 +133,8 @@ void RoadNet::Put() {
             const unsigned water = WaterSides(build_, place);
             cell.featureTile = (IsRiver(cell) ? kRiver : kStream) + static_cast<int>(water);
             if (road.sides != 0) cell.roadTile = BridgeFor(road.sides, water);
+        } else if (IsLake(cell)) {
+            cell.featureTile = kRiver + static_cast<int>(WaterSides(build_, place));
         } else if (road.sides != 0) {
             cell.featureTile = (road.paved ? kPavedRoad : kTrack) + static_cast<int>(road.sides);
         }

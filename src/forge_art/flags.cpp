@@ -65,15 +65,16 @@ void DrawSaltire(Plate& plate, QRectF area, QRgb ground, QRgb cross) {
 
 void DrawAustrian(Plate& plate, const Palette& palette, QRectF area) {
     plate.Box(area.x(), area.y(), area.width(), area.height(), palette["flag.yellow"]);
-    const QPointF middle = area.center();
-    plate.Oval(middle.x(), middle.y(), area.height() * 0.16, area.height() * 0.3,
-               palette["flag.black"]);
+    const double size = area.height();
+    const auto at = [&](double x, double y) { return area.center() + QPointF(x, y) * size; };
+    const QRgb black = palette["flag.black"];
+    plate.Oval(at(0, 0).x(), at(0, 0).y(), size * 0.12, size * 0.22, black);
+    plate.Area({at(-0.10, 0.16), at(0.10, 0.16), at(0.14, 0.36), at(-0.14, 0.36)}, black);
     for (const double side : {-1.0, 1.0}) {
-        plate.Area(
-            {middle,
-             {middle.x() + side * area.height() * 0.45, area.top() + area.height() * 0.2},
-             {middle.x() + side * area.height() * 0.38, area.bottom() - area.height() * 0.25}},
-            palette["flag.black"]);
+        plate.Area({at(0.05 * side, -0.12), at(0.26 * side, -0.34), at(0.40 * side, -0.22),
+                    at(0.36 * side, 0.10), at(0.24 * side, 0.16), at(0.06 * side, 0.10)},
+                   black);
+        plate.Disc(at(0.09 * side, -0.28).x(), at(0, -0.28).y(), size * 0.075, black);
     }
 }
 

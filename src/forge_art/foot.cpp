@@ -18,8 +18,8 @@ Posted Man(const Studio& studio, const Troop& troop, std::string_view body, QPoi
 
 // Room between ranks: less where there are many.
 int RankStep(int ranks) {
-    if (ranks <= 4) return 8;
-    return ranks <= 6 ? 7 : 6;
+    if (ranks <= 4) return 10;
+    return ranks <= 6 ? 9 : 8;
 }
 
 // The first rank's ground, so that the whole lies round the cell's middle.
@@ -43,28 +43,30 @@ Tile FootFigure(const Studio& studio, const Troop& troop, std::string_view body)
 
 std::vector<Posted> PostLine(const Studio& studio, const Troop& troop, int strength) {
     constexpr int kFiles = 7;
-    const int step = RankStep(strength);
+    const int ranks = strength + 1;
+    const int step = RankStep(ranks);
+    const int back = BackOf(ranks, step);
     std::vector<Posted> men;
-    for (int rank = 0; rank < strength; ++rank) {
-        const int y = BackOf(strength, step) + rank * step;
+    for (int rank = 0; rank < ranks; ++rank) {
         for (int file = 0; file < kFiles; ++file) {
-            const QPoint place((file - kFiles / 2) * kPitch + rank % 2 * 2, y);
-            if (rank == 0 && file == kFiles / 2) {
+            const QPoint place((file - kFiles / 2) * kPitch + rank % 2 * 2 - 1, back + rank * step);
+            const bool carries = troop.hasColor && rank == 0 && file == kFiles / 2;
+            if (carries) {
                 AddColor(men, studio, troop, place);
-                if (troop.hasColor) continue;
+            } else {
+                men.push_back(Man(studio, troop, "stand", place));
             }
-            men.push_back(Man(studio, troop, "stand", place));
         }
     }
-    const int front = BackOf(strength, step) + (strength - 1) * step;
-    men.push_back(Man(studio, troop, "officer", {kFiles / 2 * kPitch + 8, front - 1}));
+    men.push_back(
+        Man(studio, troop, "officer", {kFiles / 2 * kPitch + 8, back + (ranks - 1) * step}));
     return men;
 }
 
 std::vector<Posted> PostColumn(const Studio& studio, const Troop& troop, int strength) {
     constexpr int kFiles = 4;
     const int ranks = 2 * strength;
-    const int step = ranks <= 4 ? 7 : (ranks <= 8 ? 6 : 5);
+    const int step = ranks <= 4 ? 9 : (ranks <= 8 ? 8 : 6);
     std::vector<Posted> men;
     for (int rank = 0; rank < ranks; ++rank) {
         const int y = BackOf(ranks, step) + rank * step;

@@ -16,7 +16,7 @@ namespace {
 constexpr int kTilesPerSheet = 72;
 constexpr int kBands = kGroundTiles / kGroundTilesPerBand;
 constexpr int kRoadMarkBand = 11;
-constexpr double kFringe = 4.5;
+constexpr double kFringe = 3.4;
 
 // How the six pictures of a band differ: three of grass, three of crops in furrows.
 struct Cover {

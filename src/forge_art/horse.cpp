@@ -23,8 +23,8 @@ Uniform WithHorse(const Studio& studio, std::string_view uniform, std::string_vi
 }
 
 int RankStep(int ranks) {
-    if (ranks <= 3) return 9;
-    return ranks <= 5 ? 8 : 6;
+    if (ranks <= 4) return 10;
+    return ranks <= 6 ? 9 : 7;
 }
 
 }  // namespace

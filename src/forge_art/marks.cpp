@@ -1,6 +1,7 @@
 #include "forge_art/marks.h"
 
 #include <array>
+#include <cmath>
 #include <cstdlib>
 #include <string>
 
@@ -30,11 +31,15 @@ Tile PaintPixels(const HexShape& hex, Paint paint) {
 constexpr std::array<Side, kSideCount> kPatternSides = {kSouthWest, kSouthEast, kEast,
                                                         kNorthEast, kNorthWest, kWest};
 
+QPoint PixelOf(QPointF point) {
+    return {static_cast<int>(std::floor(point.x())), static_cast<int>(std::floor(point.y()))};
+}
+
 // Both cells beside a border draw it, and where only one of them has a picture for its sides it is
 // still there: so both must put the same dots.
 void PutBorder(Tile& tile, const HexShape& hex, Side side, QRgb color) {
-    QPoint from = hex.Corner(side).toPoint();
-    QPoint to = hex.Corner((side + 1) % kSideCount).toPoint();
+    QPoint from = PixelOf(hex.Corner(side));
+    QPoint to = PixelOf(hex.Corner((side + 1) % kSideCount));
     if (from.x() > to.x() || (from.x() == to.x() && from.y() > to.y())) std::swap(from, to);
     const QPoint way = to - from;
     const int steps = std::max(std::abs(way.x()), std::abs(way.y()));

@@ -33,7 +33,7 @@ Tile WithLine(const Tile& figure, QRgb ink) {
 void Fade(Tile& tile, QRgb dust) {
     tile.Recolor([dust](QRgb color, int, int) {
         const int light = Lightness(color);
-        return Mix(Mix(color, qRgb(light, light, light), 0.55), dust, 0.42);
+        return Mix(Mix(color, qRgb(light, light, light), 0.30), dust, 0.38);
     });
 }
 

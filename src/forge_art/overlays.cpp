@@ -1,6 +1,7 @@
 #include "forge_art/overlays.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "forge_art/chance.h"
@@ -22,9 +23,11 @@ bool FallsAt(int mask, int side) {
     return (mask >> ((side + kSideCount) % kSideCount) & 1) != 0;
 }
 
-// Sides that look away from the light.
-bool IsShaded(int side) {
-    return side == kEast || side == kSouthEast || side == kSouthWest;
+// How far a slope towards a side lies in the shade: 0 faces the light, 1 looks away from it.
+constexpr std::array<double, kSideCount> kShadeOf = {0.55, 0.85, 1.0, 0.75, 0.30, 0.15};
+
+double ShadeOf(int side) {
+    return kShadeOf[static_cast<std::size_t>(side)];
 }
 
 QRect RoomOf(const HexShape& hex) {
@@ -44,8 +47,8 @@ void PutStroke(Tile& tile, const HexShape& hex, QPointF from, QPointF to, QRgb c
     }
 }
 
-// Strokes run down a slope, from its crest inside the cell to the side. They shorten towards an
-// end of the side where the slope ends too.
+// Strokes run down a slope, from its crest inside the cell to the side. A line of height never
+// ends, so each side's strokes go on in those of the next cell.
 class SlopePainter {
  public:
     SlopePainter(const Palette& palette, const HexShape& hex, int mask)
@@ -56,7 +59,7 @@ class SlopePainter {
           tile_(RoomOf(hex)) {}
 
     Tile Paint() {
-        for (int side = 0; side < kSideCount; ++side)
+        for (const int side : {kNorthWest, kNorthEast, kWest, kEast, kSouthWest, kSouthEast})
             if (FallsAt(mask_, side)) PaintSide(side);
         return tile_;
     }
@@ -66,38 +69,33 @@ class SlopePainter {
         const QPointF begin = hex_.Corner(side);
         const QPointF end = hex_.Corner((side + 1) % kSideCount);
         const double length = std::hypot(end.x() - begin.x(), end.y() - begin.y());
-        const double spacing = IsShaded(side) ? 2.1 : 3.0;
-        const int count = static_cast<int>(length / spacing);
+        const double spacing = 2.6 - 0.6 * ShadeOf(side);
+        const int count = static_cast<int>(std::lround(length / spacing));
         for (int i = 0; i < count; ++i) {
             const double share = (i + 0.5) / count;
-            PaintStroke(side, begin + (end - begin) * share, LengthAt(side, share));
+            PaintStroke(side, begin + (end - begin) * share, share, i % 2 == 0);
         }
     }
 
-    // As a part of the slope's full width.
-    double LengthAt(int side, double share) const {
-        const double reach = 0.34;
-        double length = 1;
-        if (!FallsAt(mask_, side - 1)) length = std::min(length, 0.35 + share / reach);
-        if (!FallsAt(mask_, side + 1)) length = std::min(length, 0.35 + (1 - share) / reach);
-        return std::min(length, 1.0);
-    }
-
-    void PaintStroke(int side, QPointF foot, double part) {
+    // Towards a corner from which the slope goes round the cell, strokes fan out; towards one from
+    // which it goes on beside the cell they lean the other way.
+    QPointF DirectionAt(int side, QPointF foot, double share) const {
         const QPointF gate = hex_.Gate(side);
-        const double distance = std::hypot(gate.x(), gate.y());
-        const QPointF straight = gate / distance;
-        const double radius = std::hypot(foot.x(), foot.y());
-        const QPointF fanned = straight * 0.72 + foot / radius * 0.28;
-        const double deep = (IsShaded(side) ? 0.30 : 0.24) * hex_.width;
-        const double length = deep * part * chance_.Between(0.72, 1.05);
-        const QPointF low = foot - fanned * (0.02 * hex_.width);
-        const QPointF high = low - fanned * length;
-        const QRgb ink = palette_[IsShaded(side) ? "slope.shade" : "slope.light"];
+        const QPointF straight = gate / std::hypot(gate.x(), gate.y());
+        const QPointF spread = foot / std::hypot(foot.x(), foot.y()) - straight;
+        const bool rounds = FallsAt(mask_, share < 0.5 ? side - 1 : side + 1);
+        return straight + spread * (rounds ? 0.9 : -0.5);
+    }
+
+    void PaintStroke(int side, QPointF foot, double share, bool isLong) {
+        const double deep = (0.24 + 0.14 * ShadeOf(side)) * hex_.width;
+        const double length = deep * chance_.Between(0.86, 1.04) * (isLong ? 1 : 0.68);
+        const QPointF down = DirectionAt(side, foot, share);
+        const QPointF low = foot - down * (0.02 * hex_.width);
+        const QPointF high = low - down * length;
+        const QRgb ink = Mix(palette_["slope.light"], palette_["slope.shade"], ShadeOf(side));
         PutStroke(tile_, hex_, high, low, ink);
-        if (IsShaded(side)) {
-            PutStroke(tile_, hex_, high, high + (low - high) * 0.35, palette_["slope.crest"]);
-        }
+        if (isLong) PutStroke(tile_, hex_, high, high + (low - high) * 0.45, Scaled(ink, 0.86));
     }
 
     const Palette& palette_;
@@ -107,31 +105,53 @@ class SlopePainter {
     Tile tile_;
 };
 
-// Pointed stakes side by side, with a ditch before them; an abatis has felled trees instead.
-Tile PaintPalisade(const Palette& palette, const HexShape& hex, int number) {
+// Pointed stakes side by side behind a ditch.
+void DrawStakes(Plate& plate, const Palette& palette, Chance& chance) {
+    plate.Oval(0.5, 5.6, 15.5, 2.6, palette["work.ditch"]);
+    for (double x = -14; x <= 14; x += 3.1) {
+        const double top = -6 + chance.Between(-1, 1);
+        plate.Area({{x - 1.5, 5}, {x - 1.5, top}, {x, top - 2.4}, {x + 1.5, top}, {x + 1.5, 5}},
+                   palette["work.line"]);
+        plate.Box(x - 0.9, top + 0.3, 1.1, 4.4 - top, palette["work.wood"]);
+    }
+    plate.Box(-15, -1.2, 30, 1.4, palette["work.line"]);
+}
+
+// Trees felled one over the other, their tops towards the enemy; they fill the cell, so that a row
+// of cells makes one obstacle whichever way it runs.
+void DrawAbatis(Plate& plate, const Palette& palette, Chance& chance) {
+    for (int i = 0; i < 7; ++i) {
+        const double y = -13 + i * 4.2 + chance.Between(-0.8, 0.8);
+        const double x = chance.Between(-12, -5);
+        const double tip = x + chance.Between(11, 15);
+        const double drop = chance.Between(-2.5, 2.5);
+        plate.Line(x, y + 1.2, tip, y + drop + 1.2, 1.6, palette["shadow.grass"]);
+        plate.Line(x, y, tip, y + drop, 2.5, palette["work.line"]);
+        plate.Line(x, y - 0.3, tip, y + drop - 0.3, 1.2, palette["work.wood"]);
+        for (const double branch : {0.55, 0.75}) {
+            const double from = x + (tip - x) * branch;
+            plate.Line(from, y + drop * branch, from + 3, y + drop * branch - 3.4, 1.1,
+                       palette["work.line"]);
+            plate.Line(from, y + drop * branch, from + 3.4, y + drop * branch + 2.8, 1.1,
+                       palette["work.line"]);
+        }
+        if (chance.OneIn(2)) {
+            plate.Disc(tip, y + drop - 0.6, 2.3, palette["leaf.line"]);
+            plate.Disc(tip - 0.3, y + drop - 0.9, 1.6, palette["leaf.dark"]);
+        }
+    }
+}
+
+Tile PaintWork(const Palette& palette, const HexShape& hex, int number) {
+    constexpr int kLastAbatis = 69;
     const double scale = hex.width / 32.0;
     Plate plate(QRect(-20, -20, 40, 40));
     plate.Brush().scale(scale, scale);
     Chance chance(static_cast<std::uint32_t>(number) + 800);
-    plate.Oval(0.5, 5.6, 15.5, 2.6, palette["work.ditch"]);
-    if (number % 2 == 0) {
-        for (double x = -14; x <= 14; x += 3.1) {
-            const double top = -6 + chance.Between(-1, 1);
-            plate.Area({{x - 1.5, 5}, {x - 1.5, top}, {x, top - 2.4}, {x + 1.5, top}, {x + 1.5, 5}},
-                       palette["work.line"]);
-            plate.Box(x - 0.9, top + 0.3, 1.1, 4.4 - top, palette["work.wood"]);
-        }
-        plate.Box(-15, -1.2, 30, 1.4, palette["work.line"]);
-        return plate.Pressed();
-    }
-    for (int i = 0; i < 8; ++i) {
-        const double x = -13 + i * 3.7 + chance.Between(-1, 1);
-        const double lean = chance.Between(-4, 4);
-        plate.Line(x, 5, x + lean, -6, 1.9, palette["work.line"]);
-        plate.Line(x, 5, x + lean, -6, 0.9, palette["work.wood"]);
-        plate.Line(x + lean * 0.5, -0.5, x + lean * 0.5 + 4, -4.5, 1.1, palette["work.line"]);
-        plate.Line(x + lean * 0.5, -0.5, x + lean * 0.5 - 4, -3.5, 1.1, palette["work.line"]);
-        plate.Disc(x + lean * 0.6 + 2.6, -4.6, 1.2, palette["leaf.dark"]);
+    if (number <= kLastAbatis) {
+        DrawAbatis(plate, palette, chance);
+    } else {
+        DrawStakes(plate, palette, chance);
     }
     return plate.Pressed();
 }
@@ -144,7 +164,7 @@ std::vector<Tile> PaintAll(const Studio& studio, const HexShape& hex) {
     }
     for (int number = 0; number < kOverlayTiles; ++number) {
         if (!IsPalisade(number)) continue;
-        tiles[static_cast<std::size_t>(number)] = PaintPalisade(studio.palette, hex, number);
+        tiles[static_cast<std::size_t>(number)] = PaintWork(studio.palette, hex, number);
     }
     return tiles;
 }

@@ -113,8 +113,8 @@ Tile PaintCamp(const Studio& studio, int variant) {
     Chance chance(static_cast<std::uint32_t>(variant) + 480);
     for (int row = 0; row < 3; ++row) {
         for (int column = 0; column < 3; ++column) {
-            const double x = -9 + column * 9 + (row % 2) * 3 + chance.Between(-0.6, 0.6);
-            DrawTent(plate, studio.palette, x, -7 + row * 10, 3.4);
+            const double x = -11 + column * 10 + (row % 2) * 3 + chance.Between(-0.6, 0.6);
+            DrawTent(plate, studio.palette, x, -7 + row * 10, 4.2);
         }
     }
     return plate.Pressed();

@@ -120,23 +120,71 @@ Tile PaintScene(const Studio& studio) {
     return plate.Pressed();
 }
 
-constexpr Troop kGuard = {"french.guard", "bearskin",     "",  "", Arrangement::Line,
-                          Calibre::Light, Nation::French, true};
-constexpr Troop kCuirassiers = {
-    "french.cuirassier", "helmet",       "cuirass",      "black,brown,bay",
-    Arrangement::Horse,  Calibre::Light, Nation::French, false};
-constexpr Troop kRedcoats = {"british.line", "stovepipe",     "",  "", Arrangement::Line,
-                             Calibre::Light, Nation::British, true};
-constexpr Troop kBattery = {"british.artillery", "stovepipe",     "sabre",         "bay",
-                            Arrangement::Guns,   Calibre::Medium, Nation::British, false};
+constexpr Troop Foot(std::string_view uniform, std::string_view head, Nation nation) {
+    return {uniform, head, "", "", Arrangement::Line, Calibre::Medium, nation, true};
+}
+
+constexpr Troop Riders(std::string_view uniform, std::string_view head, std::string_view body,
+                       std::string_view horses, Nation nation) {
+    return {uniform, head, body, horses, Arrangement::Horse, Calibre::Medium, nation, false};
+}
+
+constexpr Troop kLigne = Foot("french.line", "shako", Nation::French);
+constexpr Troop kGuard = Foot("french.guard", "bearskin", Nation::French);
+constexpr Troop kRedcoats = Foot("british.line", "stovepipe", Nation::British);
+constexpr Troop kPrussians = Foot("prussian.line", "covered", Nation::Prussian);
+constexpr Troop kGunners = Foot("british.artillery", "stovepipe", Nation::British);
+constexpr Troop kCuirassiers =
+    Riders("french.cuirassier", "helmet", "cuirass", "black,brown,bay", Nation::French);
+constexpr Troop kLancers =
+    Riders("french.lancer", "helmet", "lance", "bay,chestnut,brown", Nation::French);
+constexpr Troop kGeneral = Riders("french.leader", "bicorne", "point", "white", Nation::French);
+
+// A body of men in the picture, from the back to the front.
+struct Body {
+    std::vector<Posted> men;
+    QPoint at;
+    int scale;
+    Facing facing;
+};
+
+std::vector<Body> Armies(const Studio& studio) {
+    const auto line = [&](const Troop& troop, int strength) {
+        return PostLine(studio, troop, strength);
+    };
+    return {
+        {PostColumn(studio, kPrussians, 2), {742, 372}, 1, Facing::Left},
+        {PostColumn(studio, kPrussians, 2), {700, 368}, 1, Facing::Left},
+        {PostColumn(studio, kLigne, 2), {60, 376}, 1, Facing::Right},
+        {PostColumn(studio, kLigne, 2), {108, 372}, 1, Facing::Right},
+        {line(kRedcoats, 1), {520, 430}, 2, Facing::Left},
+        {PostGuns(studio, kGunners, 1, false), {628, 432}, 2, Facing::Left},
+        {line(kRedcoats, 1), {724, 440}, 2, Facing::Left},
+        {PostHorse(studio, kLancers, 1), {92, 446}, 2, Facing::Right},
+        {PostHorse(studio, kCuirassiers, 2), {252, 462}, 2, Facing::Right},
+        {line(kRedcoats, 2), {606, 506}, 2, Facing::Left},
+        {line(kGuard, 2), {108, 524}, 2, Facing::Right},
+        {line(kLigne, 2), {254, 534}, 2, Facing::Right},
+        {PostLeader(studio, kGeneral, "french.aide"), {396, 540}, 2, Facing::Right},
+        {line(kRedcoats, 2), {724, 534}, 2, Facing::Left},
+    };
+}
+
+// The smoke of a volley before a line.
+void PutVolley(QImage& picture, const Palette& palette, double x, double y, double size) {
+    Plate plate(QRect(0, 0, kWidth, kHeight));
+    Chance chance(static_cast<std::uint32_t>(x));
+    DrawCloud(plate, chance, x, y, size, palette["smoke.light"], palette["smoke.shade"]);
+    Put(picture, plate.Pressed(), {0, 0});
+}
 
 void PutArmies(QImage& picture, const Studio& studio) {
-    const MusterLook right{Facing::Right, Freshness::Fresh, false};
-    const MusterLook left{Facing::Left, Freshness::Fresh, false};
-    Put(picture, Mustered(PostHorse(studio, kCuirassiers, 1), studio, right), {110, 424}, 2);
-    Put(picture, Mustered(PostGuns(studio, kBattery, 1, false), studio, left), {712, 428}, 2);
-    Put(picture, Mustered(PostLine(studio, kRedcoats, 2), studio, left), {620, 492}, 3);
-    Put(picture, Mustered(PostLine(studio, kGuard, 2), studio, right), {190, 520}, 3);
+    for (const Body& body : Armies(studio)) {
+        const MusterLook look{body.facing, Freshness::Fresh, false};
+        Put(picture, Mustered(body.men, studio, look), body.at, body.scale);
+        const bool fires = body.facing == Facing::Left && body.scale == 2;
+        if (fires) PutVolley(picture, studio.palette, body.at.x() - 78, body.at.y() - 14, 20);
+    }
 }
 
 void PutFrame(QImage& picture, const Palette& palette) {

@@ -10,9 +10,9 @@ namespace {
 constexpr double kLift = 0.75;  // how far the crown stands above its foot, in radii
 constexpr double kDetailed = 2.2;
 
-void DrawShadow(Plate& plate, const Palette& palette, const Plant& plant) {
+void DrawShadow(Plate& plate, const Plant& plant, QRgb color) {
     plate.Oval(plant.x + plant.radius * 0.55, plant.y + plant.radius * 0.15, plant.radius * 1.05,
-               plant.radius * 0.72, palette["shadow.grass"]);
+               plant.radius * 0.72, color);
 }
 
 // Clusters of leaves: lighter towards the light, darker away from it.
@@ -41,11 +41,12 @@ void DrawCrown(Plate& plate, const Palette& palette, const Plant& plant, Chance&
 
 }  // namespace
 
-void DrawPlants(Plate& plate, const Palette& palette, std::vector<Plant> plants, Chance& chance) {
+void DrawPlants(Plate& plate, const Palette& palette, std::vector<Plant> plants, Chance& chance,
+                const char* shadow) {
     std::stable_sort(plants.begin(), plants.end(),
                      [](const Plant& a, const Plant& b) { return a.y < b.y; });
     for (const Plant& plant : plants)
-        DrawShadow(plate, palette, plant);
+        DrawShadow(plate, plant, palette[shadow]);
     for (const Plant& plant : plants)
         DrawCrown(plate, palette, plant, chance);
 }

@@ -16,9 +16,10 @@ struct Plant {
     double kind;    // 0 the lighter leaf to 1 the darker
 };
 
-// Draws shadows first and then the crowns from the back to the front, so that a clump reads as
-// one. Detail is left out of crowns too small to show it.
-void DrawPlants(Plate& plate, const Palette& palette, std::vector<Plant> plants, Chance& chance);
+// Draws shadows, of a colour of the palette, and then the crowns from the back to the front, so
+// that a clump reads as one. Detail is left out of crowns too small to show it.
+void DrawPlants(Plate& plate, const Palette& palette, std::vector<Plant> plants, Chance& chance,
+                const char* shadow = "shadow.grass");
 
 // Tall and narrow trees, as along roads and round farms.
 void DrawPoplar(Plate& plate, const Palette& palette, double x, double y);

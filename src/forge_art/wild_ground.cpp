@@ -83,25 +83,11 @@ Tile PaintMarsh(const Studio& studio, const HexShape& hex, bool isSwamp, int var
     return tile;
 }
 
-// Shores reach over the cells drawn later only on the sunny side: what lies to the other side would
-// cover the water of the cell before.
 Tile PaintLake(const Studio& studio, const HexShape& hex) {
-    const Palette& palette = studio.palette;
-    Tile tile(RoomOf(hex));
-    const QRect area = tile.Area();
-    const double scale = ScaleOf(hex);
-    for (int y = area.top(); y <= area.bottom(); ++y) {
-        for (int x = area.left(); x <= area.right(); ++x) {
-            const double beyond = hex.Beyond(x + 0.5, y + 0.5);
-            const double ragged = 1.6 * scale * (NoiseAt(x / 2, y / 2, 61) - 0.5);
-            const bool isShore = beyond + ragged > 1.0 * scale;
-            if (beyond + ragged > 3.4 * scale) continue;
-            if (isShore && hex.Contains(x, y)) continue;
-            const QRgb water = Mix(palette["water.river"], palette["water.deep"],
-                                   NoiseAt(x / 4, y, 67) > 0.8 ? 0.8 : 0.25);
-            tile.Set(x, y, isShore ? palette["water.bank"] : water);
-        }
-    }
+    Plate plate(RoomOf(hex));
+    plate.Disc(0.5, 0.5, 8 * ScaleOf(hex), studio.palette["water.river"]);
+    Tile tile = plate.Pressed();
+    tile.Lay(PaintRipples(studio, hex, 7));
     return tile;
 }
 

@@ -9,6 +9,7 @@
 namespace varnstride::art {
 
 Tile PaintMarsh(const Studio& studio, const HexShape& hex, bool isSwamp, int variant);
+// The heart of a lake's cell; its shores belong to the feature layer.
 Tile PaintLake(const Studio& studio, const HexShape& hex);
 // Reeds for a stream, ripples for a river; the water itself belongs to the feature layer.
 Tile PaintReeds(const Studio& studio, const HexShape& hex, int variant);

@@ -66,13 +66,13 @@ struct WoodKind {
     bool hasFloor;  // undergrowth between the trunks
 };
 
-constexpr WoodKind kWoodland = {4, 3, 0.60, 3.6, 5.4, 0.75, 0.05, false};
-constexpr WoodKind kForest = {4, 3, 1.0, 4.6, 5.9, 1.0, 0.45, true};
+constexpr WoodKind kWoodland = {4, 3, 0.66, 3.2, 5.6, 0.85, 0.0, false};
+constexpr WoodKind kForest = {4, 3, 1.0, 4.2, 6.4, 1.15, 0.25, true};
 
 std::vector<Plant> Planted(const HexShape& hex, const WoodKind& kind, Ride ride, Chance& chance) {
     const bool isSmall = hex.width < kNormalHex.width;
     const double scale = isSmall ? 0.62 : 1.0;
-    const double stray = isSmall ? 0.9 : 2.3;
+    const double stray = isSmall ? 1.3 : 3.1;
     std::vector<Plant> plants;
     for (const QPointF& place : Places(hex, isSmall ? kind.smallPerRow : kind.perRow)) {
         const Plant plant = {place.x() + chance.Between(-stray, stray),
@@ -92,9 +92,10 @@ Tile PaintWood(const Studio& studio, const HexShape& hex, const WoodKind& kind, 
     const std::vector<Plant> plants = Planted(hex, kind, ride, chance);
     if (kind.hasFloor) {
         for (const Plant& plant : plants)
-            plate.Disc(plant.x, plant.y - 1, plant.radius * 1.12, studio.palette["wood.floor"]);
+            plate.Disc(plant.x, plant.y - 1, plant.radius * 1.5, studio.palette["wood.floor"]);
     }
-    DrawPlants(plate, studio.palette, plants, chance);
+    DrawPlants(plate, studio.palette, plants, chance,
+               kind.hasFloor ? "shadow.wood" : "shadow.grass");
     return plate.Pressed();
 }
 
@@ -113,8 +114,9 @@ Tile PaintOrchard(const Studio& studio, const HexShape& hex, int variant) {
     Chance chance(static_cast<std::uint32_t>(variant) + 211);
     const double scale = hex.width / 32.0;
     std::vector<Plant> plants;
+    int gap = chance.Below(9);  // a tree that has died
     for (const QPointF& place : Places(hex, 3)) {
-        if (chance.OneIn(12)) continue;
+        if (gap-- == 0) continue;
         plants.push_back({place.x() + chance.Between(-0.4, 0.4), place.y() + 1,
                           chance.Between(2.8, 3.4) * scale, chance.Between(0, 0.35)});
     }
