@@ -34,8 +34,8 @@ const std::vector<Floor>& Floors() {
         {"display", {"model", "resources", "actions", "app"}},
         {"sound", {"model", "resources"}},
         {"platform",
-         {"model", "resources", "actions", "battle", "opponent", "files", "flow", "app", "forge",
-          "display", "sound"}},
+         {"model", "resources", "atlases", "actions", "battle", "opponent", "files", "flow", "app",
+          "forge", "display", "sound"}},
     };
     return floors;
 }
