@@ -1,6 +1,7 @@
 #include "display/art.h"
 
 #include "display/bmp_reader.h"
+#include "display/labels.h"
 #include "display/stand_in.h"
 #include "display/top_bar_picture.h"
 
@@ -20,7 +21,7 @@ constexpr std::array<FootprintRow, 2> kFootprints = {{
     {ViewKind::ZoomOut, "Graphics/MouseMap2.bmp", 16},
 }};
 
-constexpr std::array<std::string_view, 1> kCanvases = {kTopBarCanvas};
+constexpr std::array<std::string_view, 2> kCanvases = {kTopBarCanvas, kLabelCanvas};
 
 int CountMissing(const TileSet& set, int tiles) {
     int missing = 0;
@@ -76,6 +77,7 @@ void Art::FillGaps() {
     for (const SheetRow& row : kSheetRows)
         FillWithStandIns(sheets_[static_cast<std::size_t>(row.sheet)], row.need);
     sprites_.FillGaps();
+    if (Canvas(kLabelCanvas) == nullptr) PutCanvas(kLabelCanvas, PaintLabelCanvas());
     for (const FootprintRow& row : kFootprints) {
         if (Footprint(row.view).Width() > 0) continue;
         PutFootprint(row.view,

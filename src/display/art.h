@@ -34,7 +34,7 @@ class Art {
     }
     // The rectangle of a cell of that view around its anchor: that of the first ground tile.
     Rect CellRect(ViewKind view) const;
-    // Nothing when the canvas could not be read.
+    // Nothing when the canvas could not be read; the sheet of labels has a stand-in.
     const Surface* Canvas(std::string_view file) const;
 
     // One line for each file that is missing or damaged.

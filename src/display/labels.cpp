@@ -5,32 +5,53 @@
 #include <string_view>
 
 #include "display/font.h"
+#include "model/label_sheet.h"
 
 namespace varnstride {
 namespace {
 
-constexpr int kPlateEnd = 7;  // width of the plate before and behind the name
-constexpr int kLetterTop = 3;
-
-struct PlateStyle {
-    Pixel plate;
-    Pixel edge;
-    Pixel letters;
+constexpr Pixel kPlateColor = MakePixel(232, 221, 188);
+constexpr Pixel kEdgeColor = MakePixel(146, 124, 84);
+// By block and, within it, by style.
+constexpr std::array<Pixel, kLabelBlocks* kLabelStyles> kInks = {
+    MakePixel(46, 32, 18), MakePixel(110, 92, 70),   // ink
+    MakePixel(18, 40, 94), MakePixel(84, 104, 150),  // water
+    MakePixel(26, 66, 18), MakePixel(86, 118, 74),   // wood
 };
 
-// By style block, then by style row: dark on light, light on dark.
-constexpr std::array<std::array<PlateStyle, 2>, 3> kPlates = {{
-    {{{MakePixel(232, 221, 188), MakePixel(146, 124, 84), MakePixel(46, 32, 18)},
-      {MakePixel(66, 50, 34), MakePixel(24, 17, 10), MakePixel(240, 230, 200)}}},
-    {{{MakePixel(208, 224, 236), MakePixel(92, 122, 150), MakePixel(18, 40, 74)},
-      {MakePixel(30, 58, 96), MakePixel(10, 24, 46), MakePixel(220, 234, 246)}}},
-    {{{MakePixel(214, 226, 190), MakePixel(104, 128, 74), MakePixel(30, 50, 18)},
-      {MakePixel(48, 74, 36), MakePixel(18, 32, 12), MakePixel(228, 240, 206)}}},
-}};
+constexpr Rect PieceAt(int x, int y, int width) {
+    return {x, y, x + width, y + kLabelHeight};
+}
 
-template <std::size_t Count, typename Entry>
-const Entry& NearestOf(const std::array<Entry, Count>& entries, int index) {
-    return entries[static_cast<std::size_t>(std::clamp(index, 0, static_cast<int>(Count) - 1))];
+// The letters of a style lie so far below those of the first. Numbers beyond those of the sheet
+// take the nearest.
+int ShiftOfStyle(int style, int block) {
+    return std::clamp(style, 0, kLabelStyles - 1) * kLabelStyleStep +
+           std::clamp(block, 0, kLabelBlocks - 1) * kLabelBlockStep;
+}
+
+// Empty for a character without a piece.
+Rect PieceOf(char letter, int shift) {
+    if (letter == ' ') return PieceAt(kLabelPlateX, kLabelPlateY, kLabelBlankWidth);
+    for (const LabelGlyph& glyph : kLabelGlyphs) {
+        if (glyph.letter == letter) return PieceAt(glyph.x, glyph.row + shift, glyph.width);
+    }
+    return {};
+}
+
+// A bare piece of plate with an edge above and below.
+void PaintPlate(Surface& canvas, const Rect& piece) {
+    Fill(canvas, piece, kEdgeColor);
+    Fill(canvas, {piece.left, piece.top + 1, piece.right, piece.bottom - 1}, kPlateColor);
+}
+
+void PaintLetters(Surface& canvas, int shift, Pixel ink) {
+    constexpr int kLetterTop = 3;
+    for (const LabelGlyph& glyph : kLabelGlyphs) {
+        const Rect piece = PieceOf(glyph.letter, shift);
+        PaintPlate(canvas, piece);
+        DrawText(canvas, piece, piece.TopLeft() + Point{0, kLetterTop}, {&glyph.letter, 1}, ink);
+    }
 }
 
 // At most 29 characters; the last one of the record always ends a text.
@@ -51,20 +72,31 @@ std::vector<PlacedLabel> PlacedLabels(const Game& game) {
     return placed;
 }
 
-int LabelWidth(const MapLabel& label) {
-    return TextWidth(TextOf(label)) + 2 * kPlateEnd;
+Surface PaintLabelCanvas() {
+    Surface canvas(kLabelSheetWidth, kLabelSheetHeight);
+    PaintPlate(canvas, PieceAt(kLabelPlateX, kLabelPlateY, kLabelEndWidth));
+    for (int block = 0; block < kLabelBlocks; ++block) {
+        for (int style = 0; style < kLabelStyles; ++style) {
+            PaintLetters(canvas, ShiftOfStyle(style, block),
+                         kInks[static_cast<std::size_t>(block * kLabelStyles + style)]);
+        }
+    }
+    return canvas;
 }
 
-void DrawLabel(Surface& surface, const Rect& clip, Point at, const MapLabel& label) {
-    const PlateStyle& style =
-        NearestOf(NearestOf(kPlates, label.labelStyleBlock), label.labelStyleRow);
-    const Rect plate{at.x, at.y, at.x + LabelWidth(label), at.y + kPlateHeight};
-    const Rect inside = Intersection(clip, surface.Bounds());
-    Fill(surface, Intersection(plate, inside), style.edge);
-    Fill(surface,
-         Intersection({plate.left + 1, plate.top + 1, plate.right - 1, plate.bottom - 1}, inside),
-         style.plate);
-    DrawText(surface, inside, at + Point{kPlateEnd, kLetterTop}, TextOf(label), style.letters);
+void DrawLabel(const Surface& canvas, Surface& surface, const Rect& clip, Point at,
+               const MapLabel& label) {
+    if (at.y >= clip.bottom || at.y + kLabelHeight <= clip.top) return;
+    const auto lay = [&](const Rect& piece) {
+        Copy(canvas, piece, surface, at, clip);
+        at.x += piece.Width();
+    };
+    const Rect end = PieceAt(kLabelPlateX, kLabelPlateY, kLabelEndWidth);
+    const int shift = ShiftOfStyle(label.labelStyleRow, label.labelStyleBlock);
+    lay(end);
+    for (const char letter : TextOf(label))
+        lay(PieceOf(letter, shift));
+    lay(end);
 }
 
 }  // namespace varnstride

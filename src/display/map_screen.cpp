@@ -7,9 +7,10 @@
 namespace varnstride {
 namespace {
 
-void DrawLabels(const Game& game, const MapView& view, const Rect& clip, Surface& frame) {
+void DrawLabels(const Game& game, const Art& art, const MapView& view, const Rect& clip,
+                Surface& frame) {
     for (const PlacedLabel& placed : PlacedLabels(game)) {
-        DrawLabel(frame, clip, view.CellToScreen(placed.cell),
+        DrawLabel(*art.Canvas(kLabelCanvas), frame, clip, view.CellToScreen(placed.cell),
                   game.labels[static_cast<std::size_t>(placed.label)]);
     }
 }
@@ -36,7 +37,7 @@ void DrawScene(const Game& game, const Art& art, const MapView& view, WorldPictu
         CellsThatReach(view.Plot(), MarkReach(art, view.Kind()), shown, DrawnCells(game.grid));
     draw(MarkTiles(game, art, view.Kind(), view.Plot(), marked));
     if (view.Kind() == ViewKind::ZoomOut && game.settings.showLocations == 1)
-        DrawLabels(game, view, clip, frame);
+        DrawLabels(game, art, view, clip, frame);
 }
 
 MapScreen::MapScreen(const Art& art, int clientWidth, int clientHeight)

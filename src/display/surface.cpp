@@ -24,9 +24,13 @@ void DrawOutline(Surface& surface, const Rect& area, Pixel pixel) {
 }
 
 void Copy(const Surface& from, const Rect& source, Surface& to, Point target) {
+    Copy(from, source, to, target, to.Bounds());
+}
+
+void Copy(const Surface& from, const Rect& source, Surface& to, Point target, const Rect& clip) {
     const Point shift = target - source.TopLeft();
     const Rect readable = Intersection(source, from.Bounds());
-    const Rect inside = Intersection(readable.Moved(shift), to.Bounds());
+    const Rect inside = Intersection(readable.Moved(shift), Intersection(clip, to.Bounds()));
     if (readable.IsEmpty() || inside.IsEmpty()) return;
     for (int y = inside.top; y < inside.bottom; ++y) {
         const Pixel* row = from.Row(y - shift.y) - shift.x;

@@ -62,7 +62,9 @@ class Surface {
 void Fill(Surface& surface, const Rect& area, Pixel pixel);
 // The outline of the rectangle, one pixel wide, inside it.
 void DrawOutline(Surface& surface, const Rect& area, Pixel pixel);
-// Copies the part `source` of a picture to `target`, opaque; what lies outside either is left out.
+// Copies the part `source` of a picture to `target`, opaque; what lies outside either picture, or
+// outside the clip rectangle of the target, is left out.
+void Copy(const Surface& from, const Rect& source, Surface& to, Point target, const Rect& clip);
 void Copy(const Surface& from, const Rect& source, Surface& to, Point target);
 
 }  // namespace varnstride

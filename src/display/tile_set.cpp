@@ -1,6 +1,5 @@
 #include "display/tile_set.h"
 
-#include <cstring>
 #include <optional>
 
 #include "display/bmp_reader.h"
@@ -110,7 +109,8 @@ bool IsAnyMarked(const std::vector<Tile>& tiles) {
     return std::any_of(tiles.begin(), tiles.end(), [](const Tile& tile) { return tile.isMarked; });
 }
 
-TileSet::RowExtent ExtentOf(const Pixel* row, int width, Pixel key) {
+// The opaque part of a row; empty when there is none.
+TileSet::Row OpaquePartOf(const Pixel* row, int width, Pixel key) {
     int first = 0;
     while (first < width && row[first] == key)
         ++first;
@@ -118,14 +118,59 @@ TileSet::RowExtent ExtentOf(const Pixel* row, int width, Pixel key) {
     while (last > first && row[last - 1] == key)
         --last;
     const bool isSolid = std::find(row + first, row + last, key) == row + last;
-    return {static_cast<std::int16_t>(first), static_cast<std::int16_t>(last), isSolid};
+    return {static_cast<std::int16_t>(first), static_cast<std::int16_t>(last), isSolid, 0};
 }
 
-// Pictures are full of holes: choosing pixel by pixel, which the compiler turns into vector code,
-// is faster than copying from hole to hole.
+// Pictures are full of holes: choosing pixel by pixel without a branch, which the compiler turns
+// into vector code, is faster than copying from hole to hole.
+Pixel Chosen(Pixel from, Pixel to, Pixel key) {
+    const Pixel hole = from == key ? ~Pixel{0} : Pixel{0};
+    return (to & hole) | (from & ~hole);
+}
+
 void CopyOpaque(const Pixel* __restrict from, Pixel* __restrict to, int count, Pixel key) {
     for (int index = 0; index < count; ++index)
-        to[index] = from[index] == key ? to[index] : from[index];
+        to[index] = Chosen(from[index], to[index], key);
+}
+
+void CopyOpaqueGroups(const Pixel* __restrict from, Pixel* __restrict to, int groups, Pixel key) {
+    for (int group = 0; group < groups; ++group) {
+        for (int index = 0; index < TileSet::kGroup; ++index)
+            to[index] = Chosen(from[index], to[index], key);
+        from += TileSet::kGroup;
+        to += TileSet::kGroup;
+    }
+}
+
+// A tile that lies wholly in the clip rectangle. What fills a row's last group up is transparent,
+// so that whole groups can be chosen; the surface has room for them to the right of the tile.
+void DrawWhole(const TileSet& set, const Tile& tile, Surface& surface, Point corner) {
+    for (int y = tile.firstRow; y < tile.lastRow; ++y) {
+        const TileSet::Row& row = set.RowOf(tile, y);
+        if (row.isSolid) {
+            std::copy_n(set.PixelsOf(row), row.last - row.first,
+                        surface.Row(corner.y + y) + corner.x + row.first);
+            continue;
+        }
+        const int groups = (row.last - row.first + TileSet::kGroup - 1) / TileSet::kGroup;
+        CopyOpaqueGroups(set.PixelsOf(row), surface.Row(corner.y + y) + corner.x + row.first,
+                         groups, set.Key());
+    }
+}
+
+void DrawPart(const TileSet& set, const Tile& tile, Surface& surface, Point corner,
+              const Rect& part) {
+    const int firstRow = std::max(part.top - corner.y, tile.firstRow);
+    const int lastRow = std::min(part.bottom - corner.y, tile.lastRow);
+    for (int y = firstRow; y < lastRow; ++y) {
+        const TileSet::Row& row = set.RowOf(tile, y);
+        const int left = std::max(part.left, corner.x + row.first);
+        const int right = std::min(part.right, corner.x + row.last);
+        if (left >= right) continue;
+        const int skipped = left - (corner.x + row.first);
+        CopyOpaque(set.PixelsOf(row) + skipped, surface.Row(corner.y + y) + left, right - left,
+                   set.Key());
+    }
 }
 
 }  // namespace
@@ -137,15 +182,34 @@ TileSet::TileSet(const Surface& sheet, std::vector<Tile> tiles, Pixel key)
 }
 
 void TileSet::Take(const Surface& sheet, Tile& tile) {
-    tile.firstRow = extents_.size();
-    tile.firstPixel = pixels_.size();
     if (!tile.isMarked) return;
     reach_ = Union(reach_, tile.destination);
-    for (int y = tile.source.top; y < tile.source.bottom; ++y) {
-        const Pixel* row = sheet.Row(y) + tile.source.left;
-        pixels_.insert(pixels_.end(), row, row + tile.source.Width());
-        extents_.push_back(ExtentOf(row, tile.source.Width(), key_));
+    tile.rowsAt = rows_.size();
+    tile.firstRow = tile.lastRow = 0;
+    for (int y = 0; y < tile.source.Height(); ++y) {
+        const Pixel* pixels = sheet.Row(tile.source.top + y) + tile.source.left;
+        Row row = OpaquePartOf(pixels, tile.source.Width(), key_);
+        const bool isEmpty = row.first == row.last;
+        if (isEmpty && tile.lastRow == 0) {
+            tile.firstRow = y + 1;
+            continue;
+        }
+        if (!isEmpty) tile.lastRow = y + 1;
+        row.pixelsAt = static_cast<std::uint32_t>(pixels_.size());
+        rows_.push_back(row);
+        pixels_.insert(pixels_.end(), pixels + row.first, pixels + row.last);
+        pixels_.resize((pixels_.size() + kGroup - 1) / kGroup * kGroup, key_);
     }
+}
+
+Surface TileSet::PictureOf(int tile) const {
+    const Tile& shown = At(tile);
+    Surface picture(shown.source.Width(), shown.source.Height(), key_);
+    for (int y = shown.firstRow; y < shown.lastRow; ++y) {
+        const Row& row = RowOf(shown, y);
+        std::copy_n(PixelsOf(row), row.last - row.first, picture.Row(y) + row.first);
+    }
+    return picture;
 }
 
 void TileSet::Put(int number, const Surface& picture, Point anchor) {
@@ -186,24 +250,16 @@ Result<TileSet> LoadTileSet(const std::string& path) {
     return CutTileSet(sheet.Get(), path);
 }
 
-void DrawTile(const TileSet& set, Surface& surface, const Rect& clip, Point at, int tile) {
-    if (!set.Has(tile)) return;
-    const Tile& picture = set.At(tile);
-    const Rect placed = picture.destination.Moved(at);
-    const Rect drawn = Intersection(Intersection(placed, clip), surface.Bounds());
-    if (drawn.IsEmpty()) return;
-    for (int y = drawn.top; y < drawn.bottom; ++y) {
-        const TileSet::RowExtent& extent = set.Extent(picture, y - placed.top);
-        const int left = std::max(drawn.left, placed.left + extent.first);
-        const int count = std::min(drawn.right, placed.left + extent.last) - left;
-        if (count <= 0) continue;
-        const Pixel* from = set.Pixels(picture, y - placed.top) + (left - placed.left);
-        Pixel* to = surface.Row(y) + left;
-        if (extent.isSolid) {
-            std::memcpy(to, from, static_cast<std::size_t>(count) * sizeof(Pixel));
-        } else {
-            CopyOpaque(from, to, count, set.Key());
-        }
+void DrawTile(const TileSet& set, Surface& surface, const Rect& clip, Point at, int number) {
+    if (!set.Has(number)) return;
+    const Tile& tile = set.At(number);
+    const Rect placed = tile.destination.Moved(at);
+    const Rect part = Intersection(Intersection(placed, clip), surface.Bounds());
+    if (part.IsEmpty()) return;
+    if (part == placed && placed.right + TileSet::kGroup <= surface.Width()) {
+        DrawWhole(set, tile, surface, placed.TopLeft());
+    } else {
+        DrawPart(set, tile, surface, placed.TopLeft(), part);
     }
 }
 

@@ -19,19 +19,25 @@ struct Tile {
     Point anchor;
     Rect destination;       // the source moved so that the anchor is at (0, 0)
     bool isMarked = false;  // both anchor marks were found; without them nothing is drawn
-    std::size_t firstRow = 0;
-    std::size_t firstPixel = 0;
+
+    // The rows that have an opaque pixel, counted from the tile's top, and where TileSet keeps
+    // them.
+    int firstRow = 0;
+    int lastRow = 0;  // just behind the last one
+    std::size_t rowsAt = 0;
 };
 
 class TileSet {
  public:
-    // The part of a tile's row between its first and last opaque pixel, counted from the tile's
-    // left end. A solid row has no holes between them.
-    struct RowExtent {
+    // The part of a tile's row from its first to just behind its last opaque pixel, counted from
+    // the tile's left end. Its pixels are kept in whole groups, filled up with the key.
+    struct Row {
         std::int16_t first = 0;
         std::int16_t last = 0;
-        bool isSolid = false;
+        bool isSolid = false;  // without a hole in between
+        std::uint32_t pixelsAt = 0;
     };
+    static constexpr int kGroup = 4;  // pixels that are chosen in one go
 
     TileSet() = default;
     // Copies the pixels of the tiles out of the sheet, so that the sheet need not be kept.
@@ -45,13 +51,12 @@ class TileSet {
     // The rectangle around the destinations of all tiles.
     const Rect& Reach() const { return reach_; }
 
-    const RowExtent& Extent(const Tile& tile, int row) const {
-        return extents_[tile.firstRow + static_cast<std::size_t>(row)];
+    const Row& RowOf(const Tile& tile, int row) const {
+        return rows_[tile.rowsAt + static_cast<std::size_t>(row - tile.firstRow)];
     }
-    const Pixel* Pixels(const Tile& tile, int row) const {
-        return pixels_.data() + tile.firstPixel +
-               static_cast<std::size_t>(row) * static_cast<std::size_t>(tile.source.Width());
-    }
+    const Pixel* PixelsOf(const Row& row) const { return pixels_.data() + row.pixelsAt; }
+    // The picture of a tile, its holes in the colour of the key.
+    Surface PictureOf(int tile) const;
 
     // Gives the tile of that number, the next one or an unmarked one, a picture from elsewhere.
     void Put(int number, const Surface& picture, Point anchor);
@@ -60,7 +65,7 @@ class TileSet {
     void Take(const Surface& sheet, Tile& tile);
 
     std::vector<Tile> tiles_;
-    std::vector<RowExtent> extents_;
+    std::vector<Row> rows_;
     std::vector<Pixel> pixels_;
     Rect reach_;
     Pixel key_ = 0;  // no pixel of a picture, which are all opaque
@@ -75,6 +80,6 @@ Result<TileSet> LoadTileSet(const std::string& path);
 
 // Draws a tile with its anchor at (x, y), as far as it lies in the clip rectangle and on the
 // surface. A number that the set does not have draws nothing.
-void DrawTile(const TileSet& set, Surface& surface, const Rect& clip, Point at, int tile);
+void DrawTile(const TileSet& set, Surface& surface, const Rect& clip, Point at, int number);
 
 }  // namespace varnstride

@@ -116,7 +116,8 @@ void WorldPicture::Draw(const Game& game, const Rect& area, Block& block, Point 
 void WorldPicture::DrawLabels(const Game& game, const Rect& area, Surface& surface,
                               Point shift) const {
     for (const PlacedLabel& placed : labelsPlaced_) {
-        DrawLabel(surface, area.Moved(shift), plotter_.PlotCell(placed.cell) + shift,
+        DrawLabel(*art_.Canvas(kLabelCanvas), surface, area.Moved(shift),
+                  plotter_.PlotCell(placed.cell) + shift,
                   game.labels[static_cast<std::size_t>(placed.label)]);
     }
 }

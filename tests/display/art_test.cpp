@@ -6,7 +6,9 @@
 #include <filesystem>
 #include <fstream>
 
+#include "display/map_view.h"
 #include "display/painted_sheet.h"
+#include "support/field.h"
 
 namespace varnstride {
 namespace {
@@ -72,6 +74,36 @@ TEST_F(DataFolder, HasALineForEachFaultAndAStandInForEachTile) {
     EXPECT_EQ(art.At(Sheet::RoadPieces).At(19).source.Width(), 6) << "its own picture";
     EXPECT_EQ(art.Footprint(ViewKind::Normal).Width(), 32);
     EXPECT_EQ(art.Footprint(ViewKind::ZoomOut).Height(), 32);
+}
+
+constexpr int kRoadMarker = 11;  // stands on the small ground sheet, in place of a height band
+
+// The pictures of the game itself: none is missing, and every opaque pixel of a ground tile is a
+// click on its own cell, so that the ground closes without a gap.
+TEST(GameArt, HoldsEveryTileAndGroundThatFitsItsFootprint) {
+    const Art art(VARNSTRIDE_DATA);
+    EXPECT_EQ(art.Complaints(), std::vector<std::string>{});
+    const Field field({});
+    for (const ViewKind kind : {ViewKind::Normal, ViewKind::ZoomOut}) {
+        const MapView view(art, kind, field.game.grid, {0, 0, 400, 400});
+        const TileSet& ground =
+            art.At(kind == ViewKind::Normal ? Sheet::Ground : Sheet::SmallGround);
+        for (int number = 0; number < ground.Count(); ++number) {
+            if (kind == ViewKind::ZoomOut && number == kRoadMarker) continue;
+            const Surface picture = ground.PictureOf(number);
+            int covered = 0;
+            for (int y = 0; y < picture.Height(); ++y) {
+                for (int x = 0; x < picture.Width(); ++x) {
+                    if (picture.At(x, y) == ground.Key()) continue;
+                    const Point place = view.CellToScreen({3, 3}) +
+                                        ground.At(number).destination.TopLeft() + Point{x, y};
+                    covered += view.ScreenToCell(place) == Cell{3, 3} ? 1 : 0;
+                }
+            }
+            EXPECT_EQ(covered, view.Plot().tileWidth * view.Plot().tileHeight / 2)
+                << "view " << static_cast<int>(kind) << ", tile " << number;
+        }
+    }
 }
 
 }  // namespace

@@ -90,7 +90,7 @@ TEST(TileSheet, NumbersItsTilesByRows) {
     for (int number = 0; number < 7; ++number) {
         const Tile& tile = set.Get().At(number);
         EXPECT_TRUE((tile.destination == Rect{-number, -1, 4, 8 - number})) << number;
-        EXPECT_EQ(set.Get().Pixels(tile, 0)[0], MakePixel(number, 0, 0));
+        EXPECT_EQ(set.Get().PictureOf(number), tiles[static_cast<std::size_t>(number)].picture);
     }
     EXPECT_FALSE(set.Get().Has(7)) << "an empty cell of the last row is no tile";
     EXPECT_FALSE(set.Get().Has(-1));
