@@ -70,8 +70,9 @@ std::vector<Tile> PaintBases(const Studio& studio) {
         plate.Oval(0, 10.4, 36, 13.4, Scaled(cloth, 0.62));
         plate.Oval(0, 7, 37, 14, palette["unit.line"]);
         plate.Oval(0, 7, 36, 13.2, Scaled(cloth, 1.12));
-        plate.Oval(0, 7, 34.6, 12.2, palette["base.grass"]);
-        plate.Oval(2, 8, 31, 10, Scaled(palette["base.grass"], 1.05));
+        plate.Oval(0, 7, 32.6, 11.0, Scaled(cloth, 0.7));
+        plate.Oval(0, 7.2, 32.0, 10.6, palette["base.grass"]);
+        plate.Oval(1.6, 8, 28.5, 8.6, Scaled(palette["base.grass"], 1.05));
         tiles.push_back(plate.Pressed());
     }
     return tiles;

@@ -165,11 +165,16 @@ Tile PaintSmallCell(QRgb base, std::uint32_t salt) {
     return tile;
 }
 
+// The mark stands for a bridge whichever way it runs.
 Tile PaintRoadMark(const Palette& palette) {
     Tile tile(QRect(-4, -4, 8, 8));
-    for (int y = -2; y < 2; ++y)
-        for (int x = -3; x < 3; ++x)
-            tile.Set(x, y, palette[y == -2 || y == 1 ? "road.edge" : "road.paved"]);
+    for (int y = -4; y < 4; ++y) {
+        for (int x = -4; x < 4; ++x) {
+            const bool isCorner = std::abs(x + 0.5) + std::abs(y + 0.5) > 6;
+            const bool isEdge = std::abs(x + 0.5) + std::abs(y + 0.5) > 4;
+            if (!isCorner) tile.Set(x, y, palette[isEdge ? "road.edge" : "road.paved"]);
+        }
+    }
     return tile;
 }
 

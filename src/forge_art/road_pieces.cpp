@@ -58,10 +58,10 @@ Tile PaintBridge(const Palette& palette, unsigned sides) {
 Tile PaintSmoke(const Palette& palette) {
     Plate plate(kRoom);
     Chance chance(901);
-    for (int i = 0; i < 9; ++i) {
-        const double x = chance.Between(-13, 13);
-        const double y = chance.Between(-12, 12);
-        const double radius = chance.Between(4.5, 8);
+    for (int i = 0; i < 12; ++i) {
+        const double x = chance.Between(-16, 16);
+        const double y = -16 + i * 2.8;  // from the back to the front
+        const double radius = chance.Between(4.5, 8.5);
         plate.Disc(x, y, radius, palette["smoke.shade"]);
         plate.Disc(x - 0.8, y - 1.0, radius - 1.2, palette["smoke.body"]);
         plate.Disc(x - 1.8, y - 2.0, radius * 0.5, palette["smoke.light"]);
@@ -117,9 +117,6 @@ std::vector<Tile> PaintRoadPieces(const Studio& studio) {
     tiles[kFire] = PaintFire(studio.palette);
     for (const BridgeTile& bridge : kBridges)
         tiles[static_cast<std::size_t>(bridge.tile)] = PaintBridge(studio.palette, bridge.sides);
-    // Plain pieces of road, for maps that lay them here.
-    tiles[9] = tiles[kBridgeNorthEastSouthWest];
-    tiles[10] = tiles[kBridgeNorthWestSouthEast];
     return tiles;
 }
 

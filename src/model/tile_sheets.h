@@ -23,10 +23,11 @@ constexpr int kStream = 128;
 constexpr int kRiver = 192;
 constexpr int kFeatureTiles = 256;
 
-// Bridges stand in the road layer, by the two sides that the road over them joins.
-constexpr int kBridgeEastWest = 11;
-constexpr int kBridgeNorthEastSouthWest = 12;
-constexpr int kBridgeNorthWestSouthEast = 13;
+// Bridges stand in the road layer, by the two sides that the road over them joins. The small map
+// shows those with the numbers 3 and 8 to 10.
+constexpr int kBridgeEastWest = 8;
+constexpr int kBridgeNorthEastSouthWest = 9;
+constexpr int kBridgeNorthWestSouthEast = 10;
 struct BridgeTile {
     int tile;
     unsigned sides;
@@ -40,13 +41,13 @@ constexpr std::array<BridgeTile, 15> kBridges = {{
     {4, 17},
     {5, 33},
     {6, 6},
-    {8, 10},
-    {14, 34},
-    {15, 12},
-    {16, 20},
-    {17, 24},
-    {18, 40},
-    {19, 48},
+    {11, 10},
+    {12, 34},
+    {13, 12},
+    {14, 20},
+    {15, 24},
+    {16, 40},
+    {17, 48},
 }};
 
 // Border pictures by the sides beyond which another area number lies. The pattern's bits are, from
