@@ -18,6 +18,9 @@
 #include <array>
 #include <optional>
 
+#include "resources/dialog_ids.h"
+#include "resources/event_card_texts.h"
+
 namespace varnstride {
 namespace {
 
@@ -35,6 +38,20 @@ constexpr std::array<Caption, 4> kCaptions = {{
     {269, "Game End"},
     {636, "Start Turn"},
     {245, "Battle Result"},
+}};
+
+// Words over the first control of a group.
+struct GroupTitle {
+    int templateId;
+    int control;
+    const char* text;
+};
+constexpr std::array<GroupTitle, 5> kGroupTitles = {{
+    {kScenarioOptions, 1295, "Fog of War"},
+    {kScenarioOptions, 1374, "Stop Clock"},
+    {kScenarioOptions, 1300, "Player (Non-PBEM)"},
+    {kOptions, 1379, "Computer A/I plays :-"},
+    {kOptions, 1471, "Stop Clock"},
 }};
 
 QString CaptionOf(const Dialog& dialog) {
@@ -59,6 +76,18 @@ std::optional<int> EscapeOf(const Dialog& dialog) {
     if (buttons == 0 || (dialog.Find(kOk) != nullptr && notice)) return kOk;
     if (dialog.Find(kOk) != nullptr) return 0;
     return std::nullopt;
+}
+
+QString Text(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+// The one button of the Card Draw dialog is the card itself; a turn without a card has a blank one.
+QString ButtonText(const Dialog& dialog, const Control& control) {
+    if (dialog.templateId != kCardDraw) return QString::fromStdString(control.text);
+    const EventCardText card = EventCardTextOf(control.picture);
+    if (card.title.empty()) return "No event card this turn";
+    return Text(card.title) + "\n\n" + Text(card.sense);
 }
 
 QLabel* MakeLabel(const std::string& text) {
@@ -96,9 +125,15 @@ DataDialog::DataDialog(const Dialog& dialog, QWidget* parent)
     setWindowTitle(CaptionOf(dialog).trimmed());
     setObjectName("dialog" + QString::number(dialog.templateId));
     auto* rows = new QVBoxLayout(this);
+    if (!dialog.heading.empty()) rows->addWidget(MakeLabel(dialog.heading));
     std::map<int, QButtonGroup*> groups;
     for (const Control& control : dialog.controls) {
         if (control.kind == Kind::Button) continue;
+        for (const GroupTitle& title : kGroupTitles) {
+            if (title.templateId != dialog.templateId || title.control != control.id) continue;
+            rows->addSpacing(6);
+            rows->addWidget(MakeLabel(title.text));
+        }
         AddRow(control, *rows);
         if (control.kind != Kind::Radio) continue;
         QButtonGroup*& group = groups[control.group];
@@ -143,7 +178,7 @@ void DataDialog::AddButtons(const Dialog& dialog, QVBoxLayout& rows) {
     bool first = true;
     for (const Control& control : dialog.controls) {
         if (control.kind != Kind::Button) continue;
-        auto* button = new QPushButton(QString::fromStdString(control.text));
+        auto* button = new QPushButton(ButtonText(dialog, control));
         button->setDefault(first);
         button->setAutoDefault(true);
         first = false;

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPixmap>
 #include <QPushButton>
+#include <QVBoxLayout>
 #include <filesystem>
 
 #include "app/info_bar.h"
@@ -33,13 +34,20 @@ TopStrip::TopStrip(const Art& art, QWidget* parent)
     row->setContentsMargins(6, 2, 6, 2);
     row->setSpacing(14);
     row->addWidget(picture_);
-    for (QLabel* label : {ground_, turn_, clock_})
-        row->addWidget(label);
+    const auto column = [row](QLabel* above, QLabel* below) {
+        auto* lines = new QVBoxLayout;
+        lines->setSpacing(0);
+        lines->addWidget(above);
+        lines->addWidget(below);
+        row->addLayout(lines);
+    };
+    column(ground_, turn_);
     row->addStretch();
-    row->addWidget(file_);
+    column(clock_, file_);
     for (int card = 1; card <= 3; ++card) {
         auto* button = new QPushButton(QString("Card %1").arg(card));
         button->setFocusPolicy(Qt::NoFocus);
+        button->setMaximumWidth(button->fontMetrics().horizontalAdvance(button->text()) + 16);
         button->setToolTip(QString("Tactical Card %1").arg(card));
         connect(button, &QPushButton::clicked, this, [this, card] { onCard(card); });
         cards_[static_cast<std::size_t>(card - 1)] = button;
@@ -64,7 +72,9 @@ void TopStrip::ShowState(const Game& game) {
     const InfoBar info = DescribeInfoBar(game);
     ground_->setText(Plain(info.terrain));
     turn_->setText(Plain(info.turn) + "   Time of Day " + Plain(info.time) + " Hours");
-    clock_->setText(Plain(StopClockText(game.state)));
+    const GameState& state = game.state;
+    const bool timed = state.stopClock5 + state.stopClock10 + state.stopClock15 > 0;
+    clock_->setText(timed ? Plain(StopClockText(state)) : QString());
     file_->setText(Plain(std::filesystem::path(game.filePath).filename().string()));
 }
 
