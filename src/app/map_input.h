@@ -22,8 +22,8 @@ void OnPanelClick(Game& game, int panel);
 // A right click on unit panel 1, 2 or 3: the sheet of its unit.
 void OnPanelRightClick(Game& game, int panel);
 
-// Takes the unit in own slot 1, 2 or 3 of the area in hand and lights its reach, as either button on
-// a panel does.
+// Takes the unit in own slot 1, 2 or 3 of the area in hand and lights its reach, as either button
+// on a panel does.
 void TakeSlotInHand(Game& game, int slot);
 
 // A press of tactical card button 1, 2 or 3.

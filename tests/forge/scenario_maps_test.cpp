@@ -79,7 +79,7 @@ TEST(ScenarioMaps, RoadsAndWaterJoinTheirNeighbours) {
         {{5, 1}, Stream(kNorthWest | kSouthWest), kNoRoad},
         {{6, 3}, 0, kNoRoad},
         {{5, 4}, Stream(kNorthEast | kSouthEast), kBridgeEastWest},
-        {{5, 6}, Stream(kNorthEast | kSouthEast), kNoRoad},  // into the lake
+        {{5, 6}, Stream(kNorthEast | kSouthEast), kNoRoad},                // into the lake
         {{5, 7}, kRiver + static_cast<int>(kEast | kNorthWest), kNoRoad},  // whose shore runs on
     };
     for (const FeatureCase& expected : cases) {

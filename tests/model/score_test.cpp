@@ -185,7 +185,7 @@ constexpr RoutCase kRouts[] = {
     {19, 41, 1, kFrench, 400},   // the player has the Allies and has won
     {19, 41, 2, kFrench, -300},  // the player has the French
     {19, 41, 2, kPrussian, -300}, {41, 19, 1, kPrussian, -300}, {41, 19, 2, kPrussian, 400},
-    {19, 41, 3, kFrench, -300},   // nobody plays, so the side that moves first is told
+    {19, 41, 3, kFrench, -300},  // nobody plays, so the side that moves first is told
 };
 
 TEST(ArmyRout, ForcesTheOuterLimitOfThePlayersSide) {

@@ -14,8 +14,8 @@ namespace {
 
 constexpr std::array kStatus = {"Gone", "Routed", "Shaken", "Unsteady", "Ordered"};
 constexpr std::array kQuality = {"", "Elite", "Veteran", "Experienced", "Militia", "Conscript"};
-constexpr std::array kFormation = {"No Formation", "Line",         "Attack Column", "Square",
-                                   "Open Order",   "March Column", "Mixed Order"};
+constexpr std::array kFormation = {"Line",       "Attack Column", "Mixed Order", "Square",
+                                   "Open Order", "March Column",  "No Formation"};
 
 template <std::size_t Count, typename Value>
 const char* WordOf(const std::array<const char*, Count>& words, Value value) {
