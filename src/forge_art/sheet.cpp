@@ -65,9 +65,10 @@ void PutFrame(QImage& sheet, int cellWidth, int cellHeight) {
         if (y % cellHeight != 0) sheet.setPixel(0, y, kIdleColor);
 }
 
+// So many bytes, the lowest first; the value is 0 or more.
 void AppendNumber(std::string& bytes, int value, int width) {
-    for (int i = 0; i < width; ++i)
-        bytes += static_cast<char>(value >> (8 * i) & 0xFF);
+    for (int i = 0; i < width; ++i, value >>= 8)
+        bytes += static_cast<char>(value & 0xFF);
 }
 
 std::string Header(int width, int height, int pixelBytes) {

@@ -3,16 +3,18 @@
 // broken.
 #include <gtest/gtest.h>
 
+#include <cstdio>
+
 #include "atlases/built_in.h"
 #include "model/invariants.h"
-#include "model/who_plays.h"
+#include "platform/headless/duel.h"
 #include "platform/headless/random_player.h"
 
 namespace varnstride {
 namespace {
 
 constexpr unsigned kGames = 1000;
-constexpr unsigned kDuels = 20;
+constexpr unsigned kDuels = 300;
 constexpr int kMostSteps = 1500;
 constexpr int kStepsBetweenLooks = 10;
 
@@ -42,23 +44,41 @@ TEST_P(GillyGames, KeepTheRecordsWhole) {
 }
 
 TEST_P(GillyGames, OfTheComputerWithItselfKeepTheRecordsWhole) {
+    DuelPlan plan;
+    plan.file = scenario_;
+    plan.check = true;
     int losses = 0;
-    for (unsigned seed = 1; seed <= kDuels; ++seed) {
-        RandomPlayer player(BuiltInAtlases(), seed);
-        const Result<Done> opened = player.OpenScenario(scenario_);
-        ASSERT_TRUE(opened.Ok()) << opened.Message();
-        Game& game = player.InPlay();
-        game.settings.computerSide = game.state.computerPlays = kComputerPlaysBoth;
-        for (int step = 0; step < kMostSteps && !player.IsOver(); ++step) {
-            ASSERT_NE(game.state.turnPhase, TurnPhase::Orders) << "a person is waited for";
-            player.Step();
-            ASSERT_EQ(BrokenInvariants(game, Overspending::ByTheComputer),
-                      std::vector<std::string>{})
-                << "seed " << seed << ", turn " << game.state.gameTurn;
-        }
-        losses += game.loss.frenchLossSP + game.loss.alliedLossSP;
+    for (plan.seed = 1; plan.seed <= kDuels; ++plan.seed) {
+        const Result<DuelResult> played = PlayDuel(plan, BuiltInAtlases());
+        ASSERT_TRUE(played.Ok()) << played.Message();
+        const DuelResult& duel = played.Get();
+        ASSERT_EQ(duel.broken, "") << "repeated by varnstride-sim duel --seed " << plan.seed;
+        ASSERT_TRUE(duel.ended) << "seed " << plan.seed;
+        losses += duel.loss.frenchLossSP + duel.loss.alliedLossSP;
     }
     EXPECT_GT(losses, static_cast<int>(kDuels)) << "the sides hardly fight";
+}
+
+// A duel cut off and saved is a battle like any other, which the computer can play on.
+TEST_P(GillyGames, OfTheComputerGoOnFromAFile) {
+    const std::string saved = testing::TempDir() + GetParam() + std::string("_duel.cmb");
+    DuelPlan plan;
+    plan.file = scenario_;
+    plan.turns = 3;
+    plan.save = saved;
+    const auto cut = PlayDuel(plan, BuiltInAtlases());
+    ASSERT_TRUE(cut.Ok()) << cut.Message();
+    EXPECT_FALSE(cut.Get().ended);
+    EXPECT_EQ(cut.Get().turns, 3);
+    plan = {};
+    plan.file = saved;
+    plan.check = true;
+    const auto rest = PlayDuel(plan, BuiltInAtlases());
+    ASSERT_TRUE(rest.Ok()) << rest.Message();
+    EXPECT_TRUE(rest.Get().ended);
+    EXPECT_EQ(rest.Get().course.front().turn, 4);
+    std::remove(saved.c_str());
+    EXPECT_FALSE(PlayDuel(plan, BuiltInAtlases()).Ok()) << "the file is gone";
 }
 
 INSTANTIATE_TEST_SUITE_P(, GillyGames, testing::Values("gilly_first_steps", "gilly_rearguard"),

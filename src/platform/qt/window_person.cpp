@@ -80,11 +80,9 @@ std::optional<std::string> WindowPerson::ChooseFile(const FileQuestion& question
 
 // The window lives on: it is painted, moved and resized, only orders wait.
 void WindowPerson::Pause(int milliseconds) {
-    ++pauses_;
     QEventLoop loop;
     QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
     loop.exec();
-    --pauses_;
 }
 
 unsigned WindowPerson::Time() {

@@ -38,14 +38,10 @@ class WindowPerson : public Person {
     bool PaintsRiders() const override { return true; }
     void Rolled(int, int, bool) override {}
 
-    // Nobody may give orders while the rules wait for something else.
-    bool IsPausing() const { return pauses_ > 0; }
-
  private:
     std::filesystem::path data_;
     std::optional<unsigned> time_;
     std::filesystem::path lastFolder_;
-    int pauses_ = 0;
 };
 
 }  // namespace varnstride
