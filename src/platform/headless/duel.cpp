@@ -121,6 +121,14 @@ void Conclude(const Game& game, DuelResult& result) {
     result.alliedMorale = game.state.alliedMorale;
 }
 
+// A battle is saved while somebody's orders are open. One that has been cut off is taken to the
+// head of the next turn.
+void OpenForOrders(Game& game) {
+    game.settings.computerSide = game.state.computerPlays = 0;
+    while (game.state.turnPhase != TurnPhase::Orders)
+        RunGamePass(game);
+}
+
 }  // namespace
 
 Result<DuelResult> PlayDuel(const DuelPlan& plan, const AtlasCatalogue& atlases) {
@@ -133,6 +141,7 @@ Result<DuelResult> PlayDuel(const DuelPlan& plan, const AtlasCatalogue& atlases)
     PlayOn(game, plan, result);
     Conclude(game, result);
     if (plan.save.empty()) return result;
+    OpenForOrders(game);
     SaveBattleFileAs(game);
     if (!onlooker.saved) return Failure{onlooker.lastBox};
     return result;

@@ -18,7 +18,7 @@ struct DuelPlan {
     unsigned seed = 1815;  // the time of the first player turn; each later one is 1 more
     int turns = 0;         // game turns to play; 0 until the battle has ended
     bool check = false;    // look at the invariants after every pass
-    std::string save;      // where the end of the battle is written; nowhere when empty
+    std::string save;      // where the end is written, or the head of the next turn
 };
 
 // How the battle stood at the end of a game turn.
