@@ -12,7 +12,10 @@
 #include <vector>
 
 #include "atlases/built_in.h"
+#include "display/png_writer.h"
+#include "files/safe_write.h"
 #include "platform/headless/duel.h"
+#include "sim/duel_plot.h"
 #include "sim/duel_summary.h"
 #include "sim/subcommands.h"
 
@@ -27,6 +30,7 @@ struct Order {
     int games = 1;
     int jobs = static_cast<int>(std::thread::hardware_concurrency());
     std::string csv;
+    std::string plot;
 };
 
 struct Played {
@@ -124,6 +128,9 @@ void Duel(const Order& order) {
     const std::vector<DuelResult> duels = PlayAll(order);
     if (duels.size() > 1) PrintSummary(std::cerr, duels);
     if (!order.csv.empty()) WriteCourse(order.csv, duels);
+    if (order.plot.empty()) return;
+    const Result<Done> written = WriteSafely(order.plot, EncodePng(PlotDuels(duels)));
+    if (!written.Ok()) throw Refusal(written.Message());
 }
 
 }  // namespace
@@ -152,6 +159,8 @@ void AddDuel(CLI::App& app) {
     command->add_option("--save", plan.save, "Writes the end of the one game to a file");
     command->add_option("--csv", order->csv,
                         "Writes score and losses of every game turn to a file");
+    command->add_option("--plot", order->plot,
+                        "Draws scores by level, and score and losses by turn, into a PNG file");
     command->callback([order] { Duel(*order); });
 }
 
