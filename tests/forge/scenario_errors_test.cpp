@@ -255,7 +255,7 @@ TEST_F(ScenarioRun, NothingIsWrittenWithAMistake) {
         ReadTextFile(VARNSTRIDE_SOURCE_DIR "/content/scenarios/gilly_rearguard.scenario").Get();
     const std::string options = " --atlases '" VARNSTRIDE_SOURCE_DIR "/content/atlas'";
     Write("good.scenario", good);
-    Write("bad.scenario", WithSlips(good, {{"turns = 10", "turns = ten"}}));
+    Write("bad.scenario", WithSlips(good, {{"turns = 7", "turns = seven"}}));
     EXPECT_EQ(Run("scenario bad.scenario -o a.scn" + options), 2);
     EXPECT_TRUE(Told().starts_with("bad.scenario:9: turns: expected ")) << Told();
     EXPECT_FALSE(std::filesystem::exists(Path("a.scn")));
