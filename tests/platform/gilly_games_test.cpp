@@ -75,7 +75,7 @@ TEST_P(GillyGames, OfTheComputerGoOnFromAFile) {
     plan.check = true;
     const auto rest = PlayDuel(plan, BuiltInAtlases());
     ASSERT_TRUE(rest.Ok()) << rest.Message();
-    EXPECT_TRUE(rest.Get().ended);
+    ASSERT_TRUE(rest.Get().ended) << rest.Get().broken;
     EXPECT_EQ(rest.Get().course.front().turn, 4);
     std::remove(saved.c_str());
     EXPECT_FALSE(PlayDuel(plan, BuiltInAtlases()).Ok()) << "the file is gone";
